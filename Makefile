@@ -1,0 +1,47 @@
+# The two commands of the README, plus benchmarks. Each installs what is
+# missing on a Debian machine first (apt-get, as root).
+JOBS        ?= $(shell nproc)
+BUILD       ?= build
+ASAN_BUILD  ?= build-asan
+BENCH_BUILD ?= build-bench
+DEPS        := liblog4cpp5-dev libboost-dev libgtest-dev libgmock-dev libbenchmark-dev cmake g++ pkg-config make
+BENCH_DEPS  := libmodpbase64-dev libssl-dev libinih-dev
+
+.PHONY: run test bench deps bench-deps build build-asan clean
+
+run: build
+	./$(BUILD)/tools/tovu/tovu info
+
+test: build build-asan
+	cd $(BUILD) && ctest --output-on-failure -j$(JOBS)
+	cd $(ASAN_BUILD) && ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j$(JOBS)
+
+bench: bench-deps
+	cmake -S . -B $(BENCH_BUILD) -DCMAKE_BUILD_TYPE=Release -DTOVU_BUILD_TESTS=OFF -DTOVU_BUILD_BENCH=ON
+	cmake --build $(BENCH_BUILD) -j$(JOBS)
+	cmake --build $(BENCH_BUILD) --target run-benchmarks
+
+build: deps
+	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo
+	cmake --build $(BUILD) -j$(JOBS)
+
+build-asan: deps
+	cmake -S . -B $(ASAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DTOVU_SANITIZE=ON
+	cmake --build $(ASAN_BUILD) -j$(JOBS)
+
+deps:
+	@missing=$$(for p in $(DEPS); do dpkg -s $$p >/dev/null 2>&1 || echo $$p; done); \
+	if [ -n "$$missing" ]; then \
+	  echo "installing:$$missing"; \
+	  apt-get update -qq && DEBIAN_FRONTEND=noninteractive apt-get install -y -qq $$missing; \
+	fi
+
+bench-deps: deps
+	@missing=$$(for p in $(BENCH_DEPS); do dpkg -s $$p >/dev/null 2>&1 || echo $$p; done); \
+	if [ -n "$$missing" ]; then \
+	  echo "installing:$$missing"; \
+	  apt-get update -qq && DEBIAN_FRONTEND=noninteractive apt-get install -y -qq $$missing; \
+	fi
+
+clean:
+	rm -rf $(BUILD) $(ASAN_BUILD) $(BENCH_BUILD)

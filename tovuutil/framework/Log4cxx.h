@@ -1,0 +1,96 @@
+#ifndef TOVUUTIL_FRAMEWORK_LOG4CXX_H
+#define TOVUUTIL_FRAMEWORK_LOG4CXX_H
+
+#include <string>
+
+#include <tovuutil/export.h>
+
+namespace log4cpp {
+class Category;
+class Appender;
+}
+
+namespace log4cxx {
+
+// Log4cxx
+//
+// The logging facade over log4cpp. An object names one category and resolves
+// it by that name on every call. The first object (or getLog4cxx call) builds
+// the default set-up:
+//   - root category at INFO with the console appender "CONSOLE" ("%m%n");
+//   - category "tovuLog" at DEBUG with the rolling file appender "TOVULOG"
+//     writing "tovu.log" in the log directory ("%d : %m%n", rolls at
+//     1,000,000 bytes, ten backups).
+// error() also copies its message at DEBUG into "tovuLog", so every error
+// lands in the log file.
+class TOVU_API Log4cxx {
+public:
+    explicit Log4cxx(std::string const& name);
+    Log4cxx(Log4cxx const&) = default;
+    Log4cxx& operator=(Log4cxx const&) = default;
+    virtual ~Log4cxx();
+
+    // A new facade object for the category; the caller owns it.
+    static Log4cxx* getLog4cxx(std::string const& name);
+    static Log4cxx* getLog4cxx();
+    static Log4cxx* getRootLog4cxx();
+
+    // True once the default configuration has been built.
+    static bool isLog4cppInitialized;
+
+    // Moves the log file: when oldDir and newDir differ, the default set-up is
+    // rebuilt for newDir; then "tovu.log" in a non-empty oldDir is deleted.
+    // Nothing is copied over.
+    static void relocateLog(std::string const& configFile, std::string const& oldDir, std::string const& newDir);
+
+    // The directory that holds "tovu.log".
+    static std::string getLogDirectory();
+
+    std::string getName() const;
+    log4cpp::Category& getCategory();
+    log4cpp::Category& getCategory(std::string const& name);
+    log4cpp::Appender* getAppender(std::string const& category, std::string const& appender);
+    log4cpp::Appender* getRootAppender(std::string const& appender);
+    // Gives the root category's appender a new pattern layout; unknown names are ignored.
+    void setLayout(std::string const& appender, std::string const& pattern);
+
+    bool isDebugEnabled() const;
+    bool isInfoEnabled() const;
+    bool isNoticeEnabled() const;
+    bool isWarnEnabled() const;
+    bool isErrorEnabled() const;
+    bool isFatalEnabled() const;
+
+    void debug(std::string const& message);
+    void info(std::string const& message);
+    void notice(std::string const& message);
+    void warn(std::string const& message);
+    void error(std::string const& message);
+    void fatal(std::string const& message);
+
+    // DEBUG markers "<prefix><category>::<method>"; the prefixes' trailing
+    // blanks align the colons.
+    void beginMethod(std::string const& method);
+    void endMethod(std::string const& method);
+    void beginConstruct(std::string const& method);
+    void endConstruct(std::string const& method);
+    void beginDestruct(std::string const& method);
+    void endDestruct(std::string const& method);
+
+    // The structured line at DEBUG on "tovuLog": message, then for each given
+    // part five blanks and the part; 99 as level or returnCode means "not
+    // given", as does an empty text. The return code is printed after
+    // "\tReturncode = ".
+    // Example: tovuLog("x", 3, "y", 5) writes "x     3     y     \tReturncode = 5".
+    void tovuLog(std::string const& message, short level, std::string const& text, int returnCode);
+    // Null pointers print as "NULL".
+    void tovuLog(char const* message, short level, char const* text, int returnCode);
+    void doLogMe(std::string const& message, short level, std::string const& text, int returnCode);
+
+private:
+    std::string name_;
+};
+
+} // namespace log4cxx
+
+#endif

@@ -1,0 +1,7 @@
+#include "tovuutil/framework/ManagedObject.h"
+
+CleanupAdapter::~CleanupAdapter() = default;
+
+void CleanupAdapter::cleanup() {}
+
+ManagedTovuObject::~ManagedTovuObject() = default;

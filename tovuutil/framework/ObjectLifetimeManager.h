@@ -1,0 +1,114 @@
+#ifndef TOVUUTIL_FRAMEWORK_OBJECTLIFETIMEMANAGER_H
+#define TOVUUTIL_FRAMEWORK_OBJECTLIFETIMEMANAGER_H
+
+#include <list>
+#include <map>
+#include <string>
+
+#include <tovuutil/framework/ManagedObject.h>
+
+class Logger;
+
+// Slots of the services created at start-up; index 0 stays empty.
+enum Preallocated_Object {
+    TOVU_PREALLOCATED_NONE = 0,
+    TOVU_SYSTEM_PROPERTIES_SERVICE = 1,
+    TOVU_PROPERTIES_SERVICE = 2,
+    TOVU_SHARED_LIB_SERVICE = 3,
+    TOVU_GUI_SERVICE = 4,
+    TOVU_PREALLOCATED_OBJECTS = 5
+};
+
+// ObjectLifetimeManagerBase
+//
+// The states of a lifetime manager: 0 constructed, 1 starting up, 2 running,
+// 3 shutting down, 4 shut down. States never go back.
+class TOVU_API ObjectLifetimeManagerBase {
+public:
+    virtual int startup() = 0;
+    virtual int shutdown() = 0;
+    virtual ~ObjectLifetimeManagerBase();
+
+protected:
+    ObjectLifetimeManagerBase();
+    int starting_up_i() const { return object_state_ < 2; }
+    int shutting_down_i() const { return object_state_ > 2; }
+
+    int object_state_;
+    int dynamically_allocated_;
+};
+
+// ObjectLifetimeManager
+//
+// The process-wide registry of long-lived objects: the four services, the
+// loggers and the objects clients hand over. The library's load-time object
+// embeds the first manager, which starts up in its own constructor. Shutdown
+// deletes, in this order:
+//   1. client objects (addObject), first added first;
+//   2. the services: GUI, shared libraries, properties, system properties;
+//   3. the loggers, first created first.
+//
+// Return codes: startup() 0 done (or not the instance), 1 already running or
+// ended; shutdown() 0 done, 1 already shut down, -1 shutdown under way.
+// A name given twice to addObject/addLogger keeps the first object in the map;
+// both objects are owned and deleted at shutdown.
+class TOVU_API ObjectLifetimeManager : public ObjectLifetimeManagerBase {
+public:
+    ObjectLifetimeManager();
+    ObjectLifetimeManager(ObjectLifetimeManager const&) = delete;
+    ObjectLifetimeManager& operator=(ObjectLifetimeManager const&) = delete;
+    ~ObjectLifetimeManager() override;
+
+    // The one manager; creates (and starts) a new one when none exists. A
+    // manager created here deletes itself at the end of its shutdown.
+    static ObjectLifetimeManager* instance();
+    static void init();
+    static void fini();
+    // 1 without a manager or before it runs, else 0.
+    static int starting_up();
+    // 1 without a manager or once it shuts down, else 0.
+    static int shutting_down();
+
+    int startup() override;
+    int shutdown() override;
+
+    void addObject(std::string const& name, ManagedTovuObject* object);
+    ManagedTovuObject* getObject(std::string const& name);
+    void addLogger(std::string const& name, Logger* logger);
+    // The second argument is ignored.
+    Logger* getLogger(std::string const& name, Logger* unused = nullptr);
+
+    // The adapter (a ManagedObject<ServiceImpl>) of a preallocated service, or
+    // null for index 0 or an index outside the array.
+    static void* getPreAllocatedObject(Preallocated_Object which);
+
+    typedef std::map<std::string, CleanupAdapter*> AdapterMap;
+    typedef std::list<CleanupAdapter*> AdapterList;
+
+private:
+    static void cleanupAll(AdapterList* list, AdapterMap* map);
+
+    static ObjectLifetimeManager* instance_;
+    static AdapterMap* managedObjectMap_;
+    static AdapterList* managedObjectList_;
+    static AdapterMap* loggerObjectMap_;
+    static AdapterList* loggerObjectList_;
+    static void* preallocated_object[TOVU_PREALLOCATED_OBJECTS];
+};
+
+// Init
+//
+// The library's one load-time object: constructing it starts the manager and
+// fills the built-in system properties; destroying it shuts the manager down.
+class TOVU_API Init {
+public:
+    Init();
+    ~Init();
+    Init(Init const&) = delete;
+    Init& operator=(Init const&) = delete;
+
+private:
+    ObjectLifetimeManager manager_;
+};
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef TOVUUTIL_FRAMEWORK_UTILSERVICEFACTORY_H
+#define TOVUUTIL_FRAMEWORK_UTILSERVICEFACTORY_H
+
+#include <tovuutil/framework/Service.h>
+
+// UtilServiceFactory
+//
+// The one way to the services. getService(type) hands out the object that the
+// lifetime manager created at start-up; the caller never deletes it and casts
+// it to the interface of the type:
+//   0 SystemPropertiesService, 1 PropertiesService, 2 SharedLibService,
+//   3 GUIService; any other number gives null and an error line.
+// Types 1 to 3 log "Erzeuge Service: <name>" at DEBUG; type 0 logs nothing.
+//
+// Example:
+//   auto* sys = static_cast<SystemPropertiesService*>(UtilServiceFactory::getService(0));
+class TOVU_API UtilServiceFactory {
+public:
+    static Service* getService(int type);
+};
+
+#endif
