@@ -130,7 +130,11 @@ log4cpp::Category& Log4cxx::getCategory(std::string const& name) { return log4cp
 log4cpp::Appender* Log4cxx::getAppender(std::string const& category, std::string const& appender)
 {
     log4cpp::Category& c = category.empty() ? log4cpp::Category::getRoot() : log4cpp::Category::getInstance(category);
-    return c.getAppender(appender);
+    // Only the category's own appenders: log4cpp's lookup by name is process-wide.
+    for (log4cpp::Appender* candidate : c.getAllAppenders())
+        if (candidate->getName() == appender)
+            return candidate;
+    return nullptr;
 }
 
 log4cpp::Appender* Log4cxx::getRootAppender(std::string const& appender) { return getAppender(name_, appender); }

@@ -4,8 +4,17 @@
 
 // Placeholder until the host callbacks land: callbacks are kept, nothing is called.
 
-GUIServiceImpl::GUIServiceImpl() : logger_(Logger::getInstance("tovuutil.GUIServiceImpl")) {}
-GUIServiceImpl::~GUIServiceImpl() = default;
+GUIServiceImpl::GUIServiceImpl() : logger_(Logger::getInstance("tovuutil.GUIServiceImpl"))
+{
+    logger_->beginConstruct("GUIServiceImpl()");
+    logger_->endConstruct("GUIServiceImpl()");
+}
+
+GUIServiceImpl::~GUIServiceImpl()
+{
+    logger_->beginDestruct("~GUIServiceImpl()");
+    logger_->endDestruct("~GUIServiceImpl()");
+}
 
 void GUIServiceImpl::registerMessageBox(MessageBoxCallback callback) { messageBox_ = callback; }
 void GUIServiceImpl::registerInitProgressDialog(ProgressDialogCallback callback) { initProgressDialog_ = callback; }

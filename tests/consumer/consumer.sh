@@ -1,0 +1,28 @@
+#!/bin/sh
+# Installs the built library into a scratch prefix, then builds and runs the
+# consumer once through the CMake package and once through pkg-config.
+# Arguments: <build dir> <consumer source dir> <scratch dir> <version>
+set -eu
+build=$1 source=$2 scratch=$3 version=$4
+rm -rf "$scratch"
+prefix=$scratch/prefix
+cmake --install "$build" --prefix "$prefix" >/dev/null
+libdir=$(dirname "$(find "$prefix" -name 'libtovuutil.so' | head -n 1)")
+
+# The link chain and the version stamped into every artefact.
+major=${version%%.*}
+test "$(readlink "$libdir/libtovuutil.so")" = "libtovuutil.so.$major"
+test "$(readlink "$libdir/libtovuutil.so.$major")" = "libtovuutil.so.$version"
+objdump -p "$libdir/libtovuutil.so.$version" | grep -q "SONAME *libtovuutil.so.$major"
+grep -q "PACKAGE_VERSION \"$version\"" "$libdir/cmake/tovuutil/tovuutilConfigVersion.cmake"
+test "$(PKG_CONFIG_PATH=$libdir/pkgconfig pkg-config --modversion tovuutil)" = "$version"
+test "$("$prefix/bin/tovu" --version 2>/dev/null || LD_LIBRARY_PATH=$libdir "$prefix/bin/tovu" --version)" = "tovu $version"
+
+cmake -S "$source" -B "$scratch/cmake-build" -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+cmake --build "$scratch/cmake-build" >/dev/null
+(cd "$scratch" && LD_LIBRARY_PATH=$libdir "$scratch/cmake-build/consumer")
+
+flags=$(PKG_CONFIG_PATH=$libdir/pkgconfig pkg-config --cflags --libs tovuutil)
+# shellcheck disable=SC2086
+c++ -std=c++17 -o "$scratch/pc-consumer" "$source/main.cpp" $flags
+(cd "$scratch" && LD_LIBRARY_PATH=$libdir "$scratch/pc-consumer")
