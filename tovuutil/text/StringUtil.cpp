@@ -135,6 +135,30 @@ private:
     bool bits_[256] = {};
 };
 
+// Copies n bytes from src to dst, every byte equal to from written as to.
+// Eight bytes at a time: no branch per byte, however dense the matches.
+void translateByte(char* dst, char const* src, size_t n, char from, char to)
+{
+    constexpr std::uint64_t ones = 0x0101010101010101u;
+    constexpr std::uint64_t low7 = 0x7F7F7F7F7F7F7F7Fu;
+    constexpr std::uint64_t high = 0x8080808080808080u;
+    std::uint64_t const fromWord = ones * static_cast<unsigned char>(from);
+    std::uint64_t const toWord = ones * static_cast<unsigned char>(to);
+    size_t i = 0;
+    for (; i + 8 <= n; i += 8) {
+        std::uint64_t word;
+        std::memcpy(&word, src + i, 8);
+        std::uint64_t const diff = word ^ fromWord;               // 0 where the byte matches
+        std::uint64_t const nonZero = ((diff & low7) + low7) | diff; // high bit: byte != 0
+        std::uint64_t const match = (~nonZero & high) >> 7;       // 0x01 per matching byte
+        std::uint64_t const mask = match * 0xFF;
+        word = (word & ~mask) | (toWord & mask);
+        std::memcpy(dst + i, &word, 8);
+    }
+    for (; i < n; ++i)
+        dst[i] = src[i] == from ? to : src[i];
+}
+
 int clampToInt(size_t v)
 {
     return v > static_cast<size_t>(INT32_MAX) ? -1 : static_cast<int>(v);
@@ -414,14 +438,8 @@ string replacePattern(string const& s, string const& p, string const& r)
         return s;
 
     if (k == 1 && r.size() == 1) {
-        // Same length: patch a copy in place.
-        string out(s);
-        char const from = p[0];
-        char const to = r[0];
-        char* q = &out[0];
-        char* const end = q + n;
-        while ((q = static_cast<char*>(std::memchr(q, from, static_cast<size_t>(end - q)))) != nullptr)
-            *q++ = to;
+        string out(n, '\0');
+        translateByte(&out[0], s.data(), n, p[0], r[0]);
         return out;
     }
 
