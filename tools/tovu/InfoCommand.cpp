@@ -16,6 +16,38 @@ void printServices(std::ostream& out)
     }
 }
 
+void printSystemProperties(std::ostream& out)
+{
+    out << "[system properties]\n";
+    auto* service = static_cast<SystemPropertiesService*>(UtilServiceFactory::getService(0));
+    if (service == nullptr)
+        return;
+    for (auto const& property : service->getAllSystemProperties())
+        out << property.first << " = " << property.second << '\n';
+}
+
+void printMachine(std::ostream& out)
+{
+    TovuSystemInformation info;
+    out << "[machine]\n";
+    out << "operating system = " << info.getOsName() << '\n';
+    out << "edition = " << info.getOsZusatz() << '\n';
+    out << "patch level = " << info.getPatchLevel() << '\n';
+    out << "version = " << info.getOsVersion() << '\n';
+    out << "kernel version = " << info.getKernelVersion() << '\n';
+    out << "build = " << info.getBuildNumber() << '\n';
+    out << "system type = " << info.getOsTypeAsString() << '\n';
+    out << "architecture = " << info.getArchitecture() << '\n';
+    out << "processors = " << info.getNumProcessors() << '\n';
+    out << "total memory = " << info.getTotalMemory() << '\n';
+    out << "free memory = " << info.getFreeMemory() << '\n';
+    out << "total swap = " << info.getTotalSwap() << '\n';
+    out << "free swap = " << info.getFreeSwap() << '\n';
+    out << "computer name = " << getLocalComputerName() << '\n';
+    out << "ip address = " << getLocalIPAddress() << '\n';
+    out << "mac address = " << getMacAddress() << '\n';
+}
+
 } // namespace
 
 int runInfo(std::ostream& out)
@@ -24,5 +56,7 @@ int runInfo(std::ostream& out)
     out << "version = " << TOVUUTIL_VERSION << '\n';
     out << "log directory = " << log4cxx::Log4cxx::getLogDirectory() << '\n';
     printServices(out);
+    printSystemProperties(out);
+    printMachine(out);
     return 0;
 }
