@@ -42,6 +42,64 @@ string atofError(char const* text)
     return "";
 }
 
+// Field-number reading written out step by step as the validators describe
+// it (trim, one sign, trim again, digits and at most one comma).
+string trimmed(string const& s)
+{
+    string::size_type const b = s.find_first_not_of(" \t\r\n");
+    if (b == string::npos)
+        return "";
+    return s.substr(b, s.find_last_not_of(" \t\r\n") - b + 1);
+}
+
+string withoutSign(string const& s)
+{
+    string t = trimmed(s);
+    if (!t.empty() && (t[0] == '+' || t[0] == '-'))
+        t = trimmed(t.substr(1));
+    return t;
+}
+
+bool isFloatText(string const& s)
+{
+    if (trimmed(s).empty())
+        return false;
+    string const u = withoutSign(s);
+    return u.find_first_not_of("0123456789,") == string::npos && u.find(',') == u.rfind(',');
+}
+
+// string2Double as described, with tovuAtof doing the conversion. "throws"
+// when that conversion raises.
+string describedDouble(string const& s)
+{
+    if (!isFloatText(s))
+        return printfWithComma(0.0, 30);
+    string const t = trimmed(s);
+    string u = withoutSign(t);
+    if (!u.empty() && u[0] == ',')
+        u = "0" + u;
+    u = (t[0] == '-' ? "-" : "") + u;
+    for (char& c : u)
+        if (c == ',')
+            c = '.';
+    if (u.empty())
+        return printfWithComma(0.0, 30);
+    try {
+        return printfWithComma(tovuAtof(u.c_str()), 30);
+    } catch (boost::bad_lexical_cast const&) {
+        return "throws";
+    }
+}
+
+string actualDouble(string const& s)
+{
+    try {
+        return printfWithComma(string2Double(s), 30);
+    } catch (boost::bad_lexical_cast const&) {
+        return "throws";
+    }
+}
+
 } // namespace
 
 TEST(IntegerToText, DecimalWithoutPadding)
@@ -169,4 +227,64 @@ TEST(Rounding, HalfUpOnlyForNonNegativeValues)
     EXPECT_EQ(lowest, tovu::math::round(-0x1p63));
     EXPECT_EQ(lowest, tovu::math::round(0x1p63));
     EXPECT_EQ(std::int64_t(1) << 62, tovu::math::round(0x1p62));
+}
+
+TEST(FieldTextToInt64, WholePartOfGermanNumbers)
+{
+    EXPECT_EQ(-42, string2Int64(" -42 "));
+    EXPECT_EQ(7, string2Int64("+ 7"));
+    EXPECT_EQ(12, string2Int64("12,9"));
+    EXPECT_EQ(-12, string2Int64("-12,9"));
+    EXPECT_EQ(0, string2Int64(" -,5"));
+    EXPECT_EQ(0, string2Int64("-"));
+    EXPECT_EQ(0, string2Int64("1.5"));
+    EXPECT_EQ(0, string2Int64("12a"));
+    EXPECT_EQ(0, string2Int64(""));
+    EXPECT_EQ(42, string2Int64("0042"));
+    EXPECT_EQ(std::numeric_limits<std::int64_t>::max(), string2Int64("99999999999999999999"));
+    EXPECT_EQ(std::numeric_limits<std::int64_t>::min(), string2Int64("-9223372036854775808"));
+    EXPECT_EQ(std::numeric_limits<std::int64_t>::min(), string2Int64("-99999999999999999999,5"));
+}
+
+TEST(FieldTextToDouble, CommaSeparatedValues)
+{
+    EXPECT_EQ(1.5, string2Double("1,5"));
+    EXPECT_EQ(-0.5, string2Double(" -,5"));
+    EXPECT_EQ(0.0, string2Double("1.5"));
+    EXPECT_EQ(0.0, string2Double("abc"));
+    EXPECT_EQ(0.0, string2Double(""));
+    EXPECT_EQ(0.0, string2Double("1,5,0"));
+    EXPECT_EQ(0.0, string2Double("+"));
+    EXPECT_EQ(0.0, string2Double(","));
+    EXPECT_EQ(5.0, string2Double("5,"));
+    EXPECT_EQ(-1.5, string2Double("- 1,5\r\n"));
+    EXPECT_EQ(-123456.78, string2Double("-123456,78"));
+    EXPECT_TRUE(std::signbit(string2Double("-0")));
+    EXPECT_EQ(1.5f, string2Float("1,5"));
+    EXPECT_EQ(std::numeric_limits<float>::infinity(), string2Float("1" + string(39, '0')));
+    EXPECT_EQ(-std::numeric_limits<float>::infinity(), string2Float("-1" + string(39, '0')));
+
+    // Where the conversion itself fails, its error reaches the caller.
+    EXPECT_THROW(string2Double("-"), boost::bad_lexical_cast);
+    EXPECT_THROW(string2Double(string(400, '9')), boost::bad_lexical_cast);
+    EXPECT_THROW(string2Float(" - "), boost::bad_lexical_cast);
+    EXPECT_EQ(0.0, string2Double("0," + string(400, '0') + "1"));
+}
+
+TEST(FieldTextToDouble, MatchesTheDescribedConversion)
+{
+    std::mt19937 rng(2024);
+    char const alphabet[] = " +-,.0123456789\t";
+    for (int i = 0; i < 30000; ++i) {
+        string s;
+        std::size_t const length = rng() % 9;
+        for (std::size_t j = 0; j < length; ++j)
+            s += alphabet[rng() % (sizeof alphabet - 1)];
+        ASSERT_EQ(describedDouble(s), actualDouble(s)) << "[" << s << "]";
+    }
+    std::uniform_real_distribution<double> amounts(-1e9, 1e9);
+    for (int i = 0; i < 20000; ++i) {
+        string const s = double2String(amounts(rng), static_cast<int>(rng() % 12));
+        ASSERT_EQ(describedDouble(s), actualDouble(s)) << s;
+    }
 }

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstring>
 #include <limits>
+#include <string_view>
 #include <vector>
 
 #include <boost/lexical_cast.hpp>
@@ -64,6 +65,59 @@ template <class T>
 T leadingInteger(string const& s)
 {
     return leadingInteger<T>(s.data(), s.data() + s.size());
+}
+
+// A field value as the number validators read it: white space " \t\r\n"
+// around it, at most one sign (white space may follow it), then digits with
+// at most one comma. valid is what isFloat says; isNumeric is valid without a
+// comma and with digits.
+struct FieldNumber {
+    bool valid = false;
+    bool negative = false;
+    bool comma = false;
+    std::string_view wholeDigits;
+    std::string_view fraction;
+};
+
+bool isFieldSpace(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+FieldNumber readFieldNumber(string const& s)
+{
+    FieldNumber f;
+    char const* p = s.data();
+    char const* end = p + s.size();
+    while (p < end && isFieldSpace(*p))
+        ++p;
+    while (end > p && isFieldSpace(end[-1]))
+        --end;
+    if (p == end)
+        return f;
+    if (*p == '+' || *p == '-') {
+        f.negative = *p++ == '-';
+        while (p < end && isFieldSpace(*p))
+            ++p;
+    }
+    char const* const whole = p;
+    while (p < end && isDigit(*p))
+        ++p;
+    f.wholeDigits = std::string_view(whole, static_cast<size_t>(p - whole));
+    if (p < end && *p == ',') {
+        f.comma = true;
+        char const* const fraction = ++p;
+        while (p < end && isDigit(*p))
+            ++p;
+        f.fraction = std::string_view(fraction, static_cast<size_t>(p - fraction));
+    }
+    f.valid = p == end;
+    return f;
 }
 
 template <class T>
@@ -148,56 +202,61 @@ long string2Long(string const& s)
 
 std::int64_t string2Int64(string const& s)
 {
-    // Completed together with the field validators it is built on.
-    return leadingInteger<std::int64_t>(s);
+    FieldNumber const f = readFieldNumber(s);
+    if (!f.valid)
+        return 0;
+    // For a whole number this is formatNumeric(s); with a comma it is
+    // formatNumeric(left(s, ",")): the sign and the digits before the comma.
+    std::int64_t const magnitudeLimit = std::numeric_limits<std::int64_t>::max();
+    std::uint64_t const limit = static_cast<std::uint64_t>(magnitudeLimit) + (f.negative ? 1 : 0);
+    std::uint64_t value = 0;
+    for (char c : f.wholeDigits) {
+        unsigned const digit = static_cast<unsigned>(c - '0');
+        if (value > (limit - digit) / 10) {
+            value = limit;
+            break;
+        }
+        value = value * 10 + digit;
+    }
+    if (!f.negative)
+        return static_cast<std::int64_t>(value);
+    return value == 0 ? 0 : -static_cast<std::int64_t>(value - 1) - 1;
 }
 
 double string2Double(string const& s)
 {
-    // Fast path for the common field text: an optional sign, digits and at
-    // most one comma, nothing else. Such text is a valid number for the
-    // validators, and after their normalisation tovuAtof reads exactly the
-    // decimal value that from_chars reads here.
-    char buffer[128];
-    size_t const n = s.size();
-    if (n > 0 && n < sizeof buffer - 2) {
-        char const* p = s.data();
-        char const* const end = p + n;
-        char* o = buffer;
-        if (*p == '-')
-            *o++ = *p++;
-        else if (*p == '+')
-            ++p;
-        char const* const intBegin = p;
-        while (p < end && *p >= '0' && *p <= '9')
-            ++p;
-        size_t const intDigits = static_cast<size_t>(p - intBegin);
-        size_t fracDigits = 0;
-        char const* fracBegin = p;
-        if (p < end && *p == ',') {
-            fracBegin = ++p;
-            while (p < end && *p >= '0' && *p <= '9')
-                ++p;
-            fracDigits = static_cast<size_t>(p - fracBegin);
-        }
-        if (p == end && intDigits + fracDigits > 0) {
-            if (intDigits == 0)
-                *o++ = '0';
-            std::memcpy(o, intBegin, intDigits);
-            o += intDigits;
-            if (fracDigits > 0) {
-                *o++ = '.';
-                std::memcpy(o, fracBegin, fracDigits);
-                o += fracDigits;
-            }
-            double value = 0.0;
-            std::from_chars_result const r = std::from_chars(buffer, o, value);
-            if (r.ec == std::errc() && r.ptr == o)
-                return value;
-        }
+    FieldNumber const f = readFieldNumber(s);
+    if (!f.valid)
+        return 0.0;
+    // formatFloat(s) with "," replaced by ".": sign, a "0" before a leading
+    // comma, the digits. Field values are short: a stack buffer holds them.
+    size_t const size = f.wholeDigits.size() + f.fraction.size() + 3;
+    char small[64];
+    string large;
+    char* const text = size < sizeof small ? small : (large.resize(size), &large[0]);
+    char* o = text;
+    if (f.negative)
+        *o++ = '-';
+    if (f.comma && f.wholeDigits.empty())
+        *o++ = '0';
+    std::memcpy(o, f.wholeDigits.data(), f.wholeDigits.size());
+    o += f.wholeDigits.size();
+    if (f.comma) {
+        *o++ = '.';
+        std::memcpy(o, f.fraction.data(), f.fraction.size());
+        o += f.fraction.size();
     }
-    // Completed together with the field validators it is built on.
-    return 0.0;
+    *o = '\0';
+    if (o == text)
+        return 0.0; // a lone "+"
+    // Plain decimal text: from_chars gives the same correctly rounded value as
+    // tovuAtof. Anything it refuses (a lone "-", overflow, underflow) goes
+    // through tovuAtof itself, which decides and raises.
+    double value = 0.0;
+    std::from_chars_result const r = std::from_chars(text, o, value);
+    if (r.ec == std::errc() && r.ptr == o)
+        return value;
+    return tovuAtof(text);
 }
 
 float string2Float(string const& s)

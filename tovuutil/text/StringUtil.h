@@ -17,9 +17,10 @@
 // Numbers produced here use the German decimal comma; input accepts a comma
 // (string2Double) or, in tovuAtof, a point.
 //
-// string2Int64 and string2Double are built on the field validators
-// (isNumeric, isFloat, formatNumeric, formatFloat), declared in their own
-// header beside this one.
+// string2Int64 and string2Double read their text exactly as the field
+// validators isNumeric/isFloat and the normalisers formatNumeric/formatFloat
+// do (white space " \t\r\n" around it, one sign that white space may follow,
+// digits, at most one comma), in a single pass.
 
 #include <cstdint>
 #include <string>
