@@ -54,15 +54,13 @@ string randomText(std::mt19937& rng, char const* alphabet, std::size_t alphabetS
 TEST(StringTrim, SetsAndEdges)
 {
     EXPECT_EQ("", trim("  \t", " \t\r\n"));
-    EXPECT_EQ("", trim("", " \t\r\n"));
+    EXPECT_EQ("", trim(""));
     EXPECT_EQ("a b", trim(" \r\na b\t "));
     EXPECT_EQ("a b\t ", trimLeft(" \r\na b\t "));
     EXPECT_EQ(" \r\na b", trimRight(" \r\na b\t "));
-    EXPECT_EQ("", trimLeft("xxx", "x"));
     EXPECT_EQ("", trimRight("xxx", "x"));
     EXPECT_EQ("a", trim("xyaxy", "yx"));
     EXPECT_EQ("\vx\v", trim(" \vx\v "));          // vertical tab is not in the set
-    EXPECT_EQ("abc", trim("abc", ""));
     EXPECT_EQ("K\xF6ln", trim("\xA0K\xF6ln\xA0\xA0", "\xA0"));
     EXPECT_EQ("a", trim(string("\0a\0", 3), string("\0", 1)));
 }
@@ -77,7 +75,6 @@ TEST(StringCase, OnlyAsciiLettersChangeInTheDefaultLocale)
         high += static_cast<char>(c);
     EXPECT_EQ(high, tolower(high));
     EXPECT_EQ(high, toupper(high));
-    EXPECT_EQ("\xC4\xD6\xDC" "a", tolower("\xC4\xD6\xDC" "A"));
 }
 
 TEST(StringPad, NeverTruncates)
@@ -86,20 +83,15 @@ TEST(StringPad, NeverTruncates)
     EXPECT_EQ("7  ", formatLeft("7", 3, ' '));
     EXPECT_EQ("1234", formatRight("1234", 3, '0'));
     EXPECT_EQ("1234", formatLeft("1234", 3, '0'));
-    EXPECT_EQ("123", formatRight("123", 3, '0'));
     EXPECT_EQ("**", formatRight("", 2, '*'));
-    EXPECT_EQ("", formatLeft("", 0, '*'));
     EXPECT_EQ("ab", formatRight("ab", -1, '0'));
-    EXPECT_EQ("ab", formatLeft("ab", -1, '0'));
 }
 
 TEST(StringReplace, LeftToRightWithoutRescanning)
 {
     EXPECT_EQ("a,b,c", replacePattern("a.b.c", ".", ","));
     EXPECT_EQ("aaaaaa", replacePattern("aaa", "a", "aa"));
-    EXPECT_EQ("abc", replacePattern("abc", "x", "y"));
     EXPECT_EQ("abc", replacePattern("abc", "", "y"));
-    EXPECT_EQ("", replacePattern("", "a", "b"));
     EXPECT_EQ("bc", replacePattern("aaabc", "a", ""));
     EXPECT_EQ("Xa", replacePattern("aaa", "aa", "X"));           // non-overlapping
     EXPECT_EQ("%1%1", replacePattern("%1", "%1", "%1%1"));        // inserted text stays
@@ -120,6 +112,7 @@ TEST(StringReplace, MillionOccurrences)
     EXPECT_EQ("ab\xE4\xF6", out.substr(out.size() - 4));
     EXPECT_EQ(s, replacePattern(out, "\xE4\xF6", "."));
     EXPECT_EQ(string(1000000, 'a'), replacePattern(s, "b.", ""));
+    EXPECT_EQ("ab\xFF" "ab\xFF", replacePattern(s, ".", "\xFF").substr(0, 6));
 }
 
 TEST(StringReplace, MatchesTheRecursiveDefinition)
@@ -153,8 +146,6 @@ TEST(StringRemovePatterns, StopRuleAndJoinedHalves)
     EXPECT_EQ("ab", removeSpecialPatterns("abab", "ab"));         // first match at 0 ends it
     EXPECT_EQ("x", removeSpecialPatterns("xabababab", "ab"));
     EXPECT_EQ("abc", removeSpecialPatterns("abc", ""));
-    EXPECT_EQ("abc", removeSpecialPatterns("abc", "abcd"));
-    EXPECT_EQ("", removeSpecialPatterns("", "a"));
     EXPECT_EQ("1234567,8", removeSpecialChars("1.234.567,8", '.'));
     EXPECT_EQ("K\xF6ln", removeSpecialChars("K\xF6\xA0ln\xA0", '\xA0'));
 }
@@ -203,7 +194,6 @@ TEST(StringKeepCharsAndDigits, GermanLettersAsSingleBytes)
               getOnlyCharsAndDigits(all));
     EXPECT_EQ("0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz",
               getOnlyCharsAndDigits7Bit(all));
-    EXPECT_EQ("", getOnlyCharsAndDigits(""));
 }
 
 TEST(StringFormatted, WholeTextOrNothing)
