@@ -63,7 +63,7 @@ public:
                 q = static_cast<char const*>(std::memchr(q, first, static_cast<size_t>(last - q) + 1));
                 if (q == nullptr)
                     return npos;
-                if (std::memcmp(q + 1, p_.data() + 1, k - 1) == 0)
+                if (restMatches(q + 1))
                     return static_cast<size_t>(q - base);
                 ++q;
             }
@@ -80,6 +80,20 @@ public:
     }
 
 private:
+    // Whether the pattern's bytes after the first follow at q. Short patterns
+    // are compared inline: a library call per candidate costs more than the
+    // comparison itself when matches are dense.
+    bool restMatches(char const* q) const
+    {
+        size_t const rest = p_.size() - 1;
+        if (rest > 8)
+            return std::memcmp(q, p_.data() + 1, rest) == 0;
+        for (size_t i = 0; i < rest; ++i)
+            if (q[i] != p_[i + 1])
+                return false;
+        return true;
+    }
+
     string_view p_;
     std::vector<size_t> fail_;
 };
