@@ -1,0 +1,58 @@
+#ifndef TOVUUTIL_FRAMEWORK_RESOURCEMANAGER_H
+#define TOVUUTIL_FRAMEWORK_RESOURCEMANAGER_H
+
+#include <map>
+#include <string>
+
+#include <tovuutil/export.h>
+
+class Logger;
+
+// Resource
+//
+// Base of every cached object; getName() gives its name.
+class TOVU_API Resource {
+public:
+    Resource() = default;
+    Resource(Resource const&) = default;
+    Resource& operator=(Resource const&) = default;
+    virtual ~Resource();
+    virtual std::string getName() = 0;
+};
+
+// ResourceManager
+//
+// A generic cache of named resources. A concrete manager supplies load,
+// unload, the canonical key (getFileName) and its one process-wide map;
+// getResource loads on first request and hands out the cached object after.
+// (Minimal form for the services; the resource cache completes it.)
+class TOVU_API ResourceManager {
+public:
+    typedef std::map<std::string, Resource*> ResourceMap;
+
+    ResourceManager();
+
+    // A new resource for the canonical key, or null; the map takes it over.
+    virtual Resource* load(std::string const& key) = 0;
+    // Called on removal before the object is destroyed.
+    virtual bool unload(std::string const& key) = 0;
+    virtual std::string getFileName(std::string const& name) = 0;
+    virtual ResourceMap& getResourceMap() = 0;
+    virtual ~ResourceManager();
+
+    // Whether the map holds the exact key.
+    bool find(std::string const& key);
+    // The cached object of the canonical key, loaded on first request; null
+    // for an empty name or a failed load.
+    Resource* getResource(std::string const& name);
+    // The object only when cached under the name exactly as passed.
+    Resource* findResource(std::string const& name);
+    // Unloads, destroys and forgets; true when it was cached.
+    bool removeResource(std::string const& name);
+    void logResources();
+
+protected:
+    Logger* logger;
+};
+
+#endif
