@@ -179,7 +179,7 @@ TEST(Relocation, FromNowhereReconfiguresButDeletesNothing)
     std::string const start = Log4cxx::getLogDirectory();
     Logger::getInstance("tovuutil.Relocation")->tovuLog("vorher", 99, "", 99);
     Log4cxx::relocateLog("", "", dir.path() + "/");
-    EXPECT_EQ(access((start + "tovu.log").c_str(), F_OK), 0);
+    EXPECT_EQ(access((start + "/tovu.log").c_str(), F_OK), 0);
     Logger::getInstance("tovuutil.Relocation")->tovuLog("danach", 99, "", 99);
     EXPECT_EQ(logMessages(dir.path()), (std::vector<std::string>{"danach"}));
 }
@@ -187,7 +187,8 @@ TEST(Relocation, FromNowhereReconfiguresButDeletesNothing)
 TEST(DefaultSetUp, LogsIntoTheWorkingDirectoryAtLoad)
 {
     char* cwd = getcwd(nullptr, 0);
-    std::string expected = std::string(cwd) + "/";
+    // The log home set at load: the working directory without a trailing separator.
+    std::string expected = std::string(cwd);
     std::free(cwd);
     EXPECT_EQ(Log4cxx::getLogDirectory(), expected);
 }

@@ -28,7 +28,7 @@ bool hostOsFacts(OsFacts& facts, int& error)
     }
     facts.osVersion = std::to_string(record.dwMajorVersion) + "." + std::to_string(record.dwMinorVersion);
     facts.kernelVersion = facts.osVersion;
-    facts.buildNumber = std::to_string(record.dwBuildNumber & (record.dwPlatformId == 1 ? 0xFFFFu : 0xFFFFFFFFu));
+    facts.buildNumber = std::to_string(record.dwBuildNumber);
     record.szCSDVersion[sizeof record.szCSDVersion - 1] = '\0';
     facts.patchLevel = record.szCSDVersion;
     if (record.dwPlatformId == VER_PLATFORM_WIN32_WINDOWS)

@@ -1,28 +1,182 @@
 #include "tovuutil/properties/PropertiesServiceImpl.h"
 
+#include "tovuutil/files/FileOperation.h"
+#include "tovuutil/files/PathUtil.h"
 #include "tovuutil/framework/Logger.h"
+#include "tovuutil/properties/Properties.h"
+#include "tovuutil/properties/SystemProperties.h"
+#include "tovuutil/text/StringUtil.h"
 
-// Placeholder until the properties cache lands.
+namespace {
 
-PropertiesServiceImpl::PropertiesServiceImpl() : logger_(Logger::getInstance("tovuutil.PropertiesServiceImpl")) {}
-PropertiesServiceImpl::~PropertiesServiceImpl() = default;
+constexpr char kDefaultIni[] = "tm.ini";
+constexpr char kDefaultDii[] = "tdf.dii";
 
-std::string PropertiesServiceImpl::loadProperties(std::string const&) { return std::string(); }
-bool PropertiesServiceImpl::unloadProperties(std::string const&) { return false; }
-std::string PropertiesServiceImpl::getProperty(std::string const&, std::string const&) { return std::string(); }
-std::string PropertiesServiceImpl::getProperty(std::string const&, std::string const&, std::string const& d)
+std::string quote(std::string const& text) { return "\"" + text + "\""; }
+
+// Brackets one operation with the DEBUG method markers; the text is built
+// only when DEBUG is on.
+class MethodMarker {
+public:
+    template <class MakeText>
+    MethodMarker(Logger* logger, MakeText makeText) : logger_(logger)
+    {
+        if (logger_->isDebugEnabled()) {
+            text_ = makeText();
+            logger_->beginMethod(text_);
+            active_ = true;
+        }
+    }
+    ~MethodMarker()
+    {
+        if (active_)
+            logger_->endMethod(text_);
+    }
+    MethodMarker(MethodMarker const&) = delete;
+    MethodMarker& operator=(MethodMarker const&) = delete;
+
+private:
+    Logger* logger_;
+    std::string text_;
+    bool active_ = false;
+};
+
+template <class List>
+std::vector<std::string> toVector(List const& list)
 {
-    return d;
+    return std::vector<std::string>(list.begin(), list.end());
 }
-bool PropertiesServiceImpl::isAvailable(std::string const&, std::string const&) { return false; }
-void PropertiesServiceImpl::setProperty(std::string const&, std::string const&, std::string const&) {}
-bool PropertiesServiceImpl::saveProperties(std::string const&) { return false; }
-std::vector<std::string> PropertiesServiceImpl::getKeysOfSection(std::string const&, std::string const&) { return {}; }
-std::vector<std::string> PropertiesServiceImpl::getSectionNames(std::string const&) { return {}; }
-void PropertiesServiceImpl::clearProperties(std::string const&) {}
-std::vector<std::pair<std::string, std::string>> PropertiesServiceImpl::getAllProperties(std::string const&, bool)
+
+} // namespace
+
+PropertiesServiceImpl::PropertiesServiceImpl() : logger_(Logger::getInstance("tovuutil.PropertiesServiceImpl"))
 {
-    return {};
+    if (logger_->isDebugEnabled()) {
+        logger_->beginConstruct("PropertiesServiceImpl()");
+        logger_->endConstruct("PropertiesServiceImpl()");
+    }
 }
-void PropertiesServiceImpl::setProperties(std::string const&, std::vector<std::pair<std::string, std::string>> const&) {}
-bool PropertiesServiceImpl::removeProperty(std::string const&, std::string const&) { return false; }
+
+PropertiesServiceImpl::~PropertiesServiceImpl()
+{
+    if (logger_->isDebugEnabled()) {
+        logger_->beginDestruct("~PropertiesServiceImpl()");
+        logger_->endDestruct("~PropertiesServiceImpl()");
+    }
+}
+
+Properties* PropertiesServiceImpl::file(std::string const& resource)
+{
+    // The cache holds Properties objects only.
+    return static_cast<Properties*>(manager_.getResource(resource));
+}
+
+std::string PropertiesServiceImpl::loadProperties(std::string const& name)
+{
+    MethodMarker marker(logger_, [&] { return "loadProperties(" + quote(name) + ")"; });
+    char const* defaultFile = endsWith(name, kDefaultIni) ? kDefaultIni : endsWith(name, kDefaultDii) ? kDefaultDii
+                                                                                                       : nullptr;
+    if (defaultFile != nullptr) {
+        std::string fullName = getFullFilename(getSystemPropertyIniHome(), defaultFile);
+        if (!fileExists(fullName))
+            writeString2File(fullName, std::string());
+    }
+    Resource* resource = manager_.getResource(name);
+    return resource ? resource->getName() : std::string();
+}
+
+bool PropertiesServiceImpl::unloadProperties(std::string const& resource)
+{
+    MethodMarker marker(logger_, [&] { return "unloadProperties(" + quote(resource) + ")"; });
+    return manager_.removeResource(resource);
+}
+
+std::string PropertiesServiceImpl::getProperty(std::string const& resource, std::string const& key)
+{
+    MethodMarker marker(logger_, [&] { return "getProperty(" + quote(resource) + ", " + quote(key) + ")"; });
+    Properties* properties = file(resource);
+    return properties ? properties->getProperty(key) : std::string();
+}
+
+std::string PropertiesServiceImpl::getProperty(std::string const& resource, std::string const& key,
+                                               std::string const& defaultValue)
+{
+    MethodMarker marker(logger_, [&] {
+        return "getProperty(" + quote(resource) + ", " + quote(key) + ", " + quote(defaultValue) + ")";
+    });
+    std::string value = getProperty(resource, key);
+    return value.empty() ? defaultValue : value;
+}
+
+bool PropertiesServiceImpl::isAvailable(std::string const& resource, std::string const& key)
+{
+    MethodMarker marker(logger_, [&] { return "isAvailable(" + quote(resource) + ", " + quote(key) + ")"; });
+    Properties* properties = file(resource);
+    return properties ? properties->isAvailable(key) : false;
+}
+
+void PropertiesServiceImpl::setProperty(std::string const& resource, std::string const& key, std::string const& value)
+{
+    MethodMarker marker(logger_, [&] {
+        return "setProperty(" + quote(resource) + ", " + quote(key) + ", " + quote(value) + ")";
+    });
+    if (Properties* properties = file(resource))
+        properties->setProperty(key, value);
+}
+
+bool PropertiesServiceImpl::saveProperties(std::string const& resource)
+{
+    MethodMarker marker(logger_, [&] { return "saveProperties(" + quote(resource) + ")"; });
+    Properties* properties = file(resource);
+    return properties ? properties->writeProperties() : false;
+}
+
+std::vector<std::string> PropertiesServiceImpl::getKeysOfSection(std::string const& resource,
+                                                                 std::string const& section)
+{
+    MethodMarker marker(logger_, [&] { return "getKeysOfSection(" + quote(resource) + ", " + quote(section) + ")"; });
+    Properties* properties = file(resource);
+    return properties ? toVector(properties->getKeysOfSection(section)) : std::vector<std::string>();
+}
+
+std::vector<std::string> PropertiesServiceImpl::getSectionNames(std::string const& resource)
+{
+    MethodMarker marker(logger_, [&] { return "getSectionNames(" + quote(resource) + ")"; });
+    Properties* properties = file(resource);
+    return properties ? toVector(properties->getSectionNames()) : std::vector<std::string>();
+}
+
+void PropertiesServiceImpl::clearProperties(std::string const& resource)
+{
+    MethodMarker marker(logger_, [&] { return "clearProperties(" + quote(resource) + ")"; });
+    for (std::string const& section : getSectionNames(resource))
+        for (std::string const& key : getKeysOfSection(resource, section))
+            setProperty(resource, key, std::string());
+}
+
+std::vector<std::pair<std::string, std::string>> PropertiesServiceImpl::getAllProperties(std::string const& resource,
+                                                                                        bool flag)
+{
+    MethodMarker marker(logger_,
+                        [&] { return "getAllProperties(" + quote(resource) + ", " + bool2String(flag) + ")"; });
+    std::vector<std::pair<std::string, std::string>> all;
+    for (std::string const& section : getSectionNames(resource))
+        for (std::string const& key : getKeysOfSection(resource, section))
+            all.emplace_back(key, getProperty(resource, key));
+    return all;
+}
+
+void PropertiesServiceImpl::setProperties(std::string const& resource,
+                                          std::vector<std::pair<std::string, std::string>> const& properties)
+{
+    MethodMarker marker(logger_, [&] { return "setProperties(" + quote(resource) + ", <vector>)"; });
+    for (auto const& pair : properties)
+        setProperty(resource, pair.first, pair.second);
+}
+
+bool PropertiesServiceImpl::removeProperty(std::string const& resource, std::string const& key)
+{
+    MethodMarker marker(logger_, [&] { return "removeProperty(" + quote(resource) + ", " + quote(key) + ")"; });
+    Properties* properties = file(resource);
+    return properties ? properties->removeProperty(key) : false;
+}

@@ -1,34 +1,188 @@
 #include "tovuutil/properties/SystemPropertiesServiceImpl.h"
 
+#include "tovuutil/files/FileOperation.h"
+#include "tovuutil/files/PathUtil.h"
 #include "tovuutil/framework/Logger.h"
+#include "tovuutil/properties/SystemProperties.h"
 
-// Placeholder until the system properties table lands.
+namespace {
+
+constexpr int kHomeSet = 0;
+constexpr int kHomeNotWritable = 1;
+constexpr int kHomeEmpty = 2;
+constexpr int kWriteAccess = 2;
+
+std::string quoted(char const* method, std::string const& argument)
+{
+    std::string text = method;
+    text += "(\"";
+    text += argument;
+    text += "\")";
+    return text;
+}
+
+// Brackets one operation with the DEBUG method markers; builds the text only
+// when DEBUG is on.
+class MethodMarker {
+public:
+    MethodMarker(Logger* logger, char const* method, std::string const& argument) : logger_(logger)
+    {
+        if (logger_->isDebugEnabled()) {
+            text_ = quoted(method, argument);
+            logger_->beginMethod(text_);
+            active_ = true;
+        }
+    }
+    MethodMarker(Logger* logger, char const* method) : logger_(logger)
+    {
+        if (logger_->isDebugEnabled()) {
+            text_ = method;
+            logger_->beginMethod(text_);
+            active_ = true;
+        }
+    }
+    ~MethodMarker()
+    {
+        if (active_)
+            logger_->endMethod(text_);
+    }
+    MethodMarker(MethodMarker const&) = delete;
+    MethodMarker& operator=(MethodMarker const&) = delete;
+
+private:
+    Logger* logger_;
+    std::string text_;
+    bool active_ = false;
+};
+
+} // namespace
 
 SystemPropertiesServiceImpl::SystemPropertiesServiceImpl()
     : logger_(Logger::getInstance("tovuutil.SystemPropertiesServiceImpl"))
 {
+    if (logger_->isDebugEnabled()) {
+        logger_->beginConstruct("SystemPropertiesServiceImpl()");
+        logger_->endConstruct("SystemPropertiesServiceImpl()");
+    }
 }
 
-SystemPropertiesServiceImpl::~SystemPropertiesServiceImpl() = default;
-
-std::string SystemPropertiesServiceImpl::getSystemProperty(std::string const&) { return std::string(); }
-std::string SystemPropertiesServiceImpl::getSystemProperty(std::string const&, std::string const& defaultValue)
+SystemPropertiesServiceImpl::~SystemPropertiesServiceImpl()
 {
-    return defaultValue;
+    if (logger_->isDebugEnabled()) {
+        logger_->beginDestruct("~SystemPropertiesServiceImpl()");
+        logger_->endDestruct("~SystemPropertiesServiceImpl()");
+    }
 }
-bool SystemPropertiesServiceImpl::isGetSystemProperty(std::string const&, std::string&) { return false; }
-void SystemPropertiesServiceImpl::setSystemProperty(std::string const&, std::string const&) {}
-bool SystemPropertiesServiceImpl::isSystemPropertyAvailable(std::string const&) { return false; }
-bool SystemPropertiesServiceImpl::removeSystemProperty(std::string const&) { return false; }
-std::string SystemPropertiesServiceImpl::getIniHome() { return std::string(); }
-std::string SystemPropertiesServiceImpl::getLogHome() { return std::string(); }
-std::string SystemPropertiesServiceImpl::getTempHome() { return std::string(); }
-std::string SystemPropertiesServiceImpl::getDataHome() { return std::string(); }
-std::string SystemPropertiesServiceImpl::getTovuHome() { return std::string(); }
-int SystemPropertiesServiceImpl::setIniHome(std::string const&) { return 1; }
-int SystemPropertiesServiceImpl::setLogHome(std::string const&) { return 1; }
-int SystemPropertiesServiceImpl::setTempHome(std::string const&) { return 1; }
-int SystemPropertiesServiceImpl::setDataHome(std::string const&) { return 1; }
-int SystemPropertiesServiceImpl::setTovuHome(std::string const&) { return 1; }
-void SystemPropertiesServiceImpl::log() {}
-std::vector<std::pair<std::string, std::string>> SystemPropertiesServiceImpl::getAllSystemProperties() { return {}; }
+
+std::string SystemPropertiesServiceImpl::getSystemProperty(std::string const& key)
+{
+    MethodMarker marker(logger_, "getSystemProperty", key);
+    return properties_.getProperty(key);
+}
+
+std::string SystemPropertiesServiceImpl::getSystemProperty(std::string const& key, std::string const& defaultValue)
+{
+    MethodMarker marker(logger_, "getSystemProperty", key);
+    std::string value = properties_.getProperty(key);
+    return value.empty() ? defaultValue : value;
+}
+
+bool SystemPropertiesServiceImpl::isGetSystemProperty(std::string const& key, std::string& value)
+{
+    MethodMarker marker(logger_, "isGetSystemProperty", key);
+    if (!isSystemPropertyAvailable(key))
+        return false;
+    value = getSystemProperty(key);
+    return true;
+}
+
+void SystemPropertiesServiceImpl::setSystemProperty(std::string const& key, std::string const& value)
+{
+    MethodMarker marker(logger_, "setSystemProperty", key);
+    properties_.setProperty(key, value);
+}
+
+bool SystemPropertiesServiceImpl::isSystemPropertyAvailable(std::string const& key)
+{
+    MethodMarker marker(logger_, "isSystemPropertyAvailable", key);
+    return properties_.isAvailable(key);
+}
+
+bool SystemPropertiesServiceImpl::removeSystemProperty(std::string const& key)
+{
+    MethodMarker marker(logger_, "removeSystemProperty", key);
+    return properties_.removeProperty(key);
+}
+
+std::string SystemPropertiesServiceImpl::getIniHome()
+{
+    MethodMarker marker(logger_, "getIniHome()");
+    return getSystemProperty(TOVU_PROPERTY_INI_HOME);
+}
+
+std::string SystemPropertiesServiceImpl::getLogHome()
+{
+    MethodMarker marker(logger_, "getLogHome()");
+    return getSystemProperty(TOVU_PROPERTY_LOG_HOME);
+}
+
+std::string SystemPropertiesServiceImpl::getTempHome()
+{
+    MethodMarker marker(logger_, "getTempHome()");
+    return getSystemProperty(TOVU_PROPERTY_TEMP_HOME);
+}
+
+std::string SystemPropertiesServiceImpl::getDataHome()
+{
+    MethodMarker marker(logger_, "getDataHome()");
+    return getSystemProperty(TOVU_PROPERTY_DATA_HOME);
+}
+
+std::string SystemPropertiesServiceImpl::getTovuHome()
+{
+    MethodMarker marker(logger_, "getTovuHome()");
+    return getSystemProperty(PROPERTY_TOVU_HOME);
+}
+
+int SystemPropertiesServiceImpl::setHome(char const* key, std::string const& home, bool movesLog)
+{
+    // Every setter shows as "setIniHome" in the log, on purpose.
+    MethodMarker marker(logger_, "setIniHome", home);
+    if (home.empty())
+        return kHomeEmpty;
+    if (fileAccess(home, kWriteAccess) == -1)
+        return kHomeNotWritable;
+    std::string formatted = formatPath(home);
+    std::string oldLogHome;
+    if (movesLog)
+        oldLogHome = getLogHome();
+    setSystemProperty(key, formatted);
+    if (movesLog)
+        log4cxx::Log4cxx::relocateLog(std::string(), oldLogHome, formatted);
+    return kHomeSet;
+}
+
+int SystemPropertiesServiceImpl::setIniHome(std::string const& home) { return setHome(TOVU_PROPERTY_INI_HOME, home, false); }
+int SystemPropertiesServiceImpl::setLogHome(std::string const& home) { return setHome(TOVU_PROPERTY_LOG_HOME, home, true); }
+int SystemPropertiesServiceImpl::setTempHome(std::string const& home) { return setHome(TOVU_PROPERTY_TEMP_HOME, home, false); }
+int SystemPropertiesServiceImpl::setDataHome(std::string const& home) { return setHome(TOVU_PROPERTY_DATA_HOME, home, false); }
+int SystemPropertiesServiceImpl::setTovuHome(std::string const& home) { return setHome(PROPERTY_TOVU_HOME, home, false); }
+
+void SystemPropertiesServiceImpl::log()
+{
+    MethodMarker marker(logger_, "log()");
+    properties_.log();
+}
+
+std::vector<std::pair<std::string, std::string>> SystemPropertiesServiceImpl::getAllSystemProperties()
+{
+    MethodMarker marker(logger_, "getAllProperties()");
+    std::vector<std::pair<std::string, std::string>> all;
+    for (std::string const& section : properties_.getSectionNames()) {
+        for (std::string const& key : properties_.getKeysOfSection(section)) {
+            std::string name = key.empty() ? section : section + "." + key;
+            all.emplace_back(name, properties_.getProperty(name));
+        }
+    }
+    return all;
+}
