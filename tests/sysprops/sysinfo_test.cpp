@@ -76,25 +76,6 @@ TEST(SystemInformation, FreeFunctionsReadOneInstanceEach)
     EXPECT_EQ(info.getBuildNumber(), build);
 }
 
-TEST(SystemInformation, CopiesCarryEveryField)
-{
-    TovuSystemInformation info;
-    TovuSystemInformation copy(info);
-    TovuSystemInformation assigned;
-    assigned = info;
-    for (TovuSystemInformation const* other : {&copy, &assigned}) {
-        EXPECT_EQ(info.getOsName(), other->getOsName());
-        EXPECT_EQ(info.getOsZusatz(), other->getOsZusatz());
-        EXPECT_EQ(info.getPatchLevel(), other->getPatchLevel());
-        EXPECT_EQ(info.getBuildNumber(), other->getBuildNumber());
-        EXPECT_EQ(info.getTotalMemory(), other->getTotalMemory());
-        EXPECT_EQ(info.getTotalSwap(), other->getTotalSwap());
-        EXPECT_EQ(info.getNumProcessors(), other->getNumProcessors());
-        EXPECT_EQ(info.getArchitecture(), other->getArchitecture());
-        EXPECT_EQ(info.getOsType(), other->getOsType());
-    }
-}
-
 TEST(SystemInformation, SplitVersionString)
 {
     TovuSystemInformation info;

@@ -11,16 +11,10 @@ using namespace tovu::detail;
 
 TEST(FactTables, ArchitectureCodesAndMachineNames)
 {
-    EXPECT_EQ("X86", architectureOfCode(0));
-    EXPECT_EQ("MIPS", architectureOfCode(1));
-    EXPECT_EQ("ALPHA", architectureOfCode(2));
-    EXPECT_EQ("PPC", architectureOfCode(3));
-    EXPECT_EQ("UNBEKANNT", architectureOfCode(4));
-    EXPECT_EQ("UNBEKANNT", architectureOfCode(5));
-    EXPECT_EQ("IS64", architectureOfCode(6));
-    EXPECT_EQ("ALPHA64", architectureOfCode(7));
-    EXPECT_EQ("UNBEKANNT", architectureOfCode(8));
-    EXPECT_EQ("X86_64", architectureOfCode(9));
+    char const* const byCode[] = {"X86", "MIPS",    "ALPHA",     "PPC",    "UNBEKANNT",
+                                  "UNBEKANNT", "IS64", "ALPHA64", "UNBEKANNT", "X86_64"};
+    for (int code = 0; code < 10; ++code)
+        EXPECT_EQ(byCode[code], architectureOfCode(code)) << code;
     EXPECT_EQ("UNBEKANNT", architectureOfCode(0xFFFF));
     EXPECT_EQ("UNBEKANNT", architectureOfCode(-1));
 
