@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <log4cpp/Category.hh>
+#include <log4cpp/Priority.hh>
 #include <string>
 #include <sys/stat.h>
 #include <utility>
@@ -193,4 +195,31 @@ TEST_F(PropertiesServiceTest, SaveWritesTheFileBytes)
     s->setProperty(tm, "DRUCK.KOPIEN", "2");
     EXPECT_TRUE(s->saveProperties("tm.ini"));
     EXPECT_EQ("[DRUCK]\r\nKOPIEN=2\r\n", readFile(inHome("tm.ini")));
+}
+
+TEST_F(PropertiesServiceTest, DestroyingAManagerUnloadsEveryFileInKeyOrder)
+{
+    PropertiesService* s = service();
+    writeFile(inHome("b.ini"), "[S]\r\nk=1\r\n");
+    s->loadProperties("b.ini");
+    s->loadProperties("a.ini");
+    s->setProperty("b.ini", "S.k", "ungespeichert");
+
+    log4cpp::Category::getInstance("tovuutil.PropertiesFileResourceManager").setPriority(log4cpp::Priority::DEBUG);
+    CapturedLog log("tovuutil.PropertiesFileResourceManager");
+    delete new PropertiesFileResourceManager();
+    std::vector<std::string> expected;
+    for (std::string const& key : {inHome("a.ini"), inHome("b.ini")}) {
+        expected.push_back("Properties unloading: " + key);
+        expected.push_back("Begin Method: tovuutil.PropertiesFileResourceManager::getFileName(" + key + ")");
+        expected.push_back("getFileName result:" + key);
+        expected.push_back("End Method  : tovuutil.PropertiesFileResourceManager::getFileName(" + key + ")");
+        expected.push_back("delete Properties.");
+        expected.push_back("erase Properties.");
+    }
+    EXPECT_EQ(expected, log.lines());
+
+    // Nothing was written; the next access reads the file afresh.
+    EXPECT_EQ("[S]\r\nk=1\r\n", readFile(inHome("b.ini")));
+    EXPECT_EQ("1", s->getProperty("b.ini", "S.k"));
 }
