@@ -1,21 +1,23 @@
 #include "tovuutil/datetime/DateField.h"
 
-#include <cctype>
-
 #include "tovuutil/text/StringUtil.h"
 
 namespace {
 
 using Codes = std::list<int>;
 
-// 'D' a digit, anything else that literal character.
+bool isDigit(unsigned char c) { return c >= '0' && c <= '9'; }
+
+// 'D' a digit 0-9, anything else that literal character. Only the digits
+// 0-9 count whatever the host's locale says about other bytes (superscript
+// digits of Windows-1252 would make the values meaningless).
 bool hasShape(std::string const& s, char const* shape, std::size_t length)
 {
     if (s.size() < length)
         return false;
     for (std::size_t i = 0; i < length; ++i) {
         unsigned char const c = static_cast<unsigned char>(s[i]);
-        if (shape[i] == 'D' ? !std::isdigit(c) : c != static_cast<unsigned char>(shape[i]))
+        if (shape[i] == 'D' ? !isDigit(c) : c != static_cast<unsigned char>(shape[i]))
             return false;
     }
     return true;

@@ -21,8 +21,11 @@
 //   t.getFormatted("%H.%M Uhr") // "00.30 Uhr"
 class TOVU_API SimpleTime {
 public:
-    // The current local time of day.
+    // SimpleTime()
+    //
+    // The current local time of day (initNow()).
     SimpleTime();
+    // Stores the four values unchanged.
     SimpleTime(int hours, int minutes, int seconds, int milliSeconds);
     ~SimpleTime() {}
 
@@ -35,31 +38,63 @@ public:
     void setSeconds(int seconds) { seconds_ = seconds; }
     void setMilliSeconds(int milliSeconds) { milliSeconds_ = milliSeconds; }
 
+    // initNow()
+    //
+    // Hours, minutes and seconds from the local time, then the milliseconds
+    // from a second reading of the clock; a second boundary crossed between the
+    // two readings is accepted.
     void initNow();
-    // The time at the end of a text: "12:34:56" and "2024-01-01 12:34:56" both
-    // give 12:34:56.000; unreadable parts give 0.
+    // initFormatT()
+    //
+    // The time at the end of a text, ":" separating the parts: the seconds
+    // right of the last ":", the minutes right of the ":" before, the hours
+    // from the last two characters of what remains; the milliseconds become 0.
+    // Unreadable parts give 0.
+    // Example: "12:34:56" and "2024-01-01 12:34:56" both give 12:34:56.000.
     void initFormatT(std::string const& text);
 
-    // Seconds since midnight of hours, minutes and seconds.
+    // calcSecondsOfTime(), getTimeValueSeconds()
+    //
+    // Seconds since midnight of hours, minutes and seconds; each out of its
+    // range counts as 0. Example: SimpleTime(10, 75, 0, 0) gives 36000.
     long calcSecondsOfTime() const;
     long getTimeValueSeconds() const;
-    // Milliseconds since midnight: seconds * 1000 plus the milliseconds field.
+    // getValue(), getTimeValueMilliSeconds()
+    //
+    // Milliseconds since midnight: the seconds above * 1000 plus the
+    // milliseconds field as it is (1500 or -3 go in unchanged).
     long getValue() const;
     long getTimeValueMilliSeconds() const;
-    // seconds * 1000 is computed in 32 bits, as it always was; milliseconds become 0.
+    // setTimeValueBySeconds(), setTimeValueByMilliSeconds()
+    //
+    // All four fields from a count; a count outside 0..86399999 ms sets
+    // 00:00:00.000. For setTimeValueBySeconds the product seconds * 1000 wraps
+    // in 32 bits, as it always has, and the milliseconds become 0.
+    // Example: setTimeValueByMilliSeconds(86399999) gives 23:59:59.999.
     void setTimeValueBySeconds(long seconds);
     void setTimeValueByMilliSeconds(long ms);
 
-    // Both return the whole days carried.
+    // add(), subtract()
+    //
+    // Add or subtract a duration given as components (out-of-range hours,
+    // minutes and seconds count as 0) and return the whole days carried,
+    // truncated toward zero. add() keeps the remainder within the day (a
+    // negative remainder sets 00:00:00.000); subtract() keeps the absolute
+    // difference and signs the carry.
+    // Example: SimpleTime(0, 30, 0, 0).subtract(1, 0, 0, 0) returns 0 and
+    //          leaves 00:30:00.000.
     int add(int hours, int minutes, int seconds, int milliSeconds);
     int subtract(int hours, int minutes, int seconds, int milliSeconds);
 
+    // Comparisons of getValue() of both sides.
     bool operator>(SimpleTime const& other) const;
     bool operator>=(SimpleTime const& other) const;
     bool operator<=(SimpleTime const& other) const;
     bool operator<(SimpleTime const& other) const;
     bool operator==(SimpleTime const& other) const;
     bool operator!=(SimpleTime const& other) const;
+    // The other's four components through add() or subtract(); the carry is
+    // dropped. + and - work on a copy.
     SimpleTime operator+(SimpleTime const& other) const;
     SimpleTime operator-(SimpleTime const& other) const;
     SimpleTime& operator+=(SimpleTime const& other);
@@ -68,7 +103,9 @@ public:
     // getFormat_T().
     std::string getFormatted() const;
     // Replaces, in this order, "%H", "%I", "%M", "%p", "%r", "%R", "%S", "%T"
-    // and "%X"; other text stays.
+    // and "%X" by the texts below; other text, unknown directives too, stays.
+    // Numbers are zero-filled on the left, a minus sign kept in front.
+    // Example: 09:05 with "%H.%M Uhr" gives "09.05 Uhr".
     std::string getFormatted(std::string const& format) const;
     // Hours, two digits.
     std::string getFormat_H() const;
