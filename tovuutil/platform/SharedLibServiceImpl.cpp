@@ -2,8 +2,6 @@
 
 #include "tovuutil/framework/Logger.h"
 
-// Placeholder until shared-library loading lands: nothing loads.
-
 SharedLibServiceImpl::SharedLibServiceImpl() : logger_(Logger::getInstance("tovuutil.SharedLibServiceImpl"))
 {
     logger_->beginConstruct("SharedLibServiceImpl()");
@@ -16,6 +14,16 @@ SharedLibServiceImpl::~SharedLibServiceImpl()
     logger_->endDestruct("~SharedLibServiceImpl()");
 }
 
-std::string SharedLibServiceImpl::loadSharedLib(std::string const&) { return std::string(); }
-bool SharedLibServiceImpl::unloadSharedLib(std::string const&) { return false; }
-void* SharedLibServiceImpl::getSymbol(std::string const&, std::string const&) { return nullptr; }
+std::string SharedLibServiceImpl::loadSharedLib(std::string const& name)
+{
+    Resource* library = libraries_.getResource(name);
+    return library ? library->getName() : std::string();
+}
+
+bool SharedLibServiceImpl::unloadSharedLib(std::string const& name) { return libraries_.removeResource(name); }
+
+void* SharedLibServiceImpl::getSymbol(std::string const& library, std::string const& symbol)
+{
+    auto* loaded = static_cast<SharedLib*>(libraries_.getResource(library));
+    return loaded ? loaded->getSymbol(symbol) : nullptr;
+}

@@ -1,0 +1,86 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include <tovuutil/tovuutil.h>
+
+#include "framework/LogCapture.h"
+#include "framework/TempDir.h"
+
+namespace {
+
+SharedLibService* service() { return static_cast<SharedLibService*>(UtilServiceFactory::getService(2)); }
+
+std::string pluginDir() { return std::string(std::getenv("TOVU_TEST_PLUGIN_DIR")) + "/"; }
+
+} // namespace
+
+TEST(SharedLib, NamesAreNormalisedToTheHostsLibraryFiles)
+{
+    SharedLibResourceManager manager;
+    EXPECT_EQ(manager.getFileName("x"), "libx.so");
+    EXPECT_EQ(manager.getFileName("x.dll"), "libx.so");
+    EXPECT_EQ(manager.getFileName("x.dylib"), "libx.so");
+    EXPECT_EQ(manager.getFileName("libx.so"), "libx.so");
+    EXPECT_EQ(manager.getFileName("X.SO"), "X.so");
+    EXPECT_EQ(manager.getFileName("X.DLL"), "libX.so");
+    EXPECT_EQ(manager.getFileName("libm.so.6"), "libm.so.6");
+    EXPECT_EQ(manager.getFileName("/opt/a/plug"), "/opt/a/libplug.so");
+    EXPECT_EQ(manager.getFileName("dir\\plug.dll"), "dir/libplug.so");
+}
+
+TEST(SharedLib, LoadsOnceUnderItsNormalisedNameAndFindsSymbols)
+{
+    std::string const expected = pluginDir() + "libtovu_test_plugin.so";
+    EXPECT_EQ(service()->loadSharedLib(pluginDir() + "tovu_test_plugin"), expected);
+    EXPECT_EQ(service()->loadSharedLib(expected), expected);
+
+    SharedLibResourceManager manager; // sees the service's cache
+    EXPECT_EQ(manager.getResourceMap().size(), 1u);
+    auto* library = static_cast<SharedLib*>(manager.findResource(expected));
+    ASSERT_NE(library, nullptr);
+    EXPECT_EQ(library->getError(), "Unknown Error");
+
+    auto answer = reinterpret_cast<int (*)()>(service()->getSymbol(pluginDir() + "tovu_test_plugin.dll",
+                                                                   "tovuTestPluginAnswer"));
+    ASSERT_NE(answer, nullptr);
+    EXPECT_EQ(answer(), 42);
+
+    EXPECT_TRUE(service()->unloadSharedLib(expected));
+    EXPECT_EQ(manager.getResourceMap().size(), 0u);
+    EXPECT_FALSE(service()->unloadSharedLib(expected));
+}
+
+TEST(SharedLib, FailuresAreLoggedAndNotCached)
+{
+    tovutest::TempDir dir;
+    log4cxx::Log4cxx::relocateLog("", log4cxx::Log4cxx::getLogDirectory(), dir.path() + "/");
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(service()->loadSharedLib("/nowhere/missing"), "");
+    EXPECT_EQ(service()->getSymbol("/nowhere/missing", "f"), nullptr);
+    EXPECT_EQ(service()->getSymbol(pluginDir() + "tovu_test_plugin", "noSuchSymbol"), nullptr);
+    testing::internal::GetCapturedStdout();
+    std::string const plugin = pluginDir() + "libtovu_test_plugin.so";
+    EXPECT_EQ(tovutest::logMessages(dir.path()),
+              (std::vector<std::string>{
+                  "Shared Library '/nowhere/libmissing.so' konnte nicht geladen werden.",
+                  "Ressource '/nowhere/libmissing.so' kann nicht geladen werden.",
+                  "Shared Library '/nowhere/libmissing.so' konnte nicht geladen werden.",
+                  "Ressource '/nowhere/libmissing.so' kann nicht geladen werden.",
+                  "Symbol 'noSuchSymbol' konnte in Shared Library '" + plugin + "' nicht gefunden werden.",
+              }));
+    EXPECT_FALSE(service()->unloadSharedLib("never"));
+}
+
+TEST(SharedLib, ASingleLibraryObject)
+{
+    SharedLib library;
+    EXPECT_EQ(library.getName(), "");
+    EXPECT_FALSE(library.unload() && false);
+    EXPECT_EQ(library.getSymbol("malloc"), nullptr); // not loaded: nothing found, not the process's symbols
+    EXPECT_TRUE(library.load("libm.so.6"));
+    EXPECT_TRUE(library.load()); // already loaded
+    EXPECT_NE(library.getSymbol("cos"), nullptr);
+    EXPECT_TRUE(library.unload());
+    EXPECT_EQ(library.getSymbol("cos"), nullptr);
+}
