@@ -43,6 +43,14 @@ void report(char const* function, char const* message, std::string const& path =
 
 std::string absolute(std::string const& path) { return getAbsolutePath(path); }
 
+// A symbolic link to a directory, or one pointing nowhere: copying it would
+// mean following it. A link to a file is copied as a plain file.
+bool isLinkToNonFile(std::string const& path)
+{
+    tovu::detail::PathStatus status;
+    return tovu::detail::statPath(path, status) == 0 && status.isLink && !status.linksToFile;
+}
+
 // A file, or a symbolic link itself (even one pointing nowhere).
 bool exists(std::string const& path) { return fileExists(path) || pathExists(path) != 0; }
 
@@ -323,9 +331,13 @@ bool copyFolder(std::string const& from, std::string const& to, bool overwrite)
                 return false;
             continue;
         }
-        for (auto const& name : top.files)
-            if (!copyFile(getFullFilename(top.from, name), getFullFilename(top.to, name), overwrite))
+        for (auto const& name : top.files) {
+            std::string const source = getFullFilename(top.from, name);
+            if (isLinkToNonFile(source))
+                continue; // links are never followed into directories or nowhere
+            if (!copyFile(source, getFullFilename(top.to, name), overwrite))
                 return false;
+        }
         stack.pop_back();
     }
     return true;

@@ -104,6 +104,9 @@ int statPath(std::string const& path, PathStatus& status)
     if (lstat(path.c_str(), &info) != 0)
         return -1;
     status.isDirectory = S_ISDIR(info.st_mode);
+    status.isLink = S_ISLNK(info.st_mode);
+    struct stat target;
+    status.linksToFile = status.isLink && stat(path.c_str(), &target) == 0 && S_ISREG(target.st_mode);
     status.size = static_cast<long long>(info.st_size);
     status.modified = info.st_mtime;
     return 0;

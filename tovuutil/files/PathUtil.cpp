@@ -83,10 +83,13 @@ bool extractPathFilenameExtention(std::string const& fullName, std::string& path
 {
     std::string const p = transformPath(fullName);
     if (p == "." || p == "..") {
+        // Directory references, not file names: never a rejoinable split.
         path = p;
         filename.clear();
         extension.clear();
-    } else {
+        return false;
+    }
+    {
         filename = right(p, separator());
         path = filename != fullName ? removeRight(p, separator()) : std::string();
         std::string::size_type const dot = filename.find('.');

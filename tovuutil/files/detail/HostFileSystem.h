@@ -36,6 +36,8 @@ int changeFileMode(std::string const& path, int mode);
 
 struct PathStatus {
     bool isDirectory = false;
+    bool isLink = false;        // a symbolic link (its own status is given)
+    bool linksToFile = false;   // a link whose target is a regular file
     long long size = 0;
     std::time_t modified = 0;
 };
