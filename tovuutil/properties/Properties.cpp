@@ -1,141 +1,241 @@
 #include "tovuutil/properties/Properties.h"
 
-#include <fstream>
+#include <exception>
 
+#include "tovuutil/files/FileOperation.h"
+#include "tovuutil/framework/Logger.h"
 #include "tovuutil/text/StringUtil.h"
 
-// Minimal form for the services; the properties model completes it.
-
 namespace {
-void split(std::string const& name, std::string& section, std::string& key)
-{
-    key = name;
-    section = extractLeftToken(key, '.');
-}
+
+constexpr char kUndefined[] = "_##undefined##_";
+constexpr char kNotFound[] = "Folgende Datei kann nicht gefunden werden: ";
+
+std::string quoted(std::string const& text) { return "\"" + text + "\""; }
+
+// Begin and end markers around one operation.
+class Marker {
+public:
+    Marker(Logger* logger, std::string const& text) : logger_(logger), debug_(logger->isDebugEnabled())
+    {
+        if (debug_) {
+            text_ = text;
+            logger_->beginMethod(text_);
+        }
+    }
+    ~Marker()
+    {
+        if (debug_)
+            logger_->endMethod(text_);
+    }
+
+private:
+    Logger* logger_;
+    bool debug_;
+    std::string text_;
+};
+
 } // namespace
 
-Properties::Properties() = default;
+Properties::Properties() : logger(Logger::getInstance("tovuutil.Properties")) { init(); }
+
+Properties::Properties(std::string const& name) : logger(Logger::getInstance("tovuutil.Properties"))
+{
+    init();
+    loadProperties(name);
+}
+
+Properties::Properties(std::string const& name, PropertyFileEnum type)
+    : logger(Logger::getInstance("tovuutil.Properties"))
+{
+    init();
+    loadProperties(name, type);
+}
+
+Properties::Properties(Properties const& other) = default;
+
+Properties& Properties::operator=(Properties const& other) = default;
+
 Properties::~Properties() = default;
 
-std::string Properties::getName() { return name_; }
+void Properties::init()
+{
+    dirty = false;
+    type = PF_UNKNOWN;
+    ini.clear();
+}
+
+std::string Properties::getName() { return name; }
+void Properties::setName(std::string const& name) { this->name = name; }
+PropertyFileEnum Properties::getType() const { return type; }
+void Properties::setType(PropertyFileEnum type) { this->type = type; }
+bool Properties::isDirty() const { return dirty; }
+void Properties::setDirty(bool dirty) { this->dirty = dirty; }
 
 bool Properties::loadProperties(std::string const& name)
 {
-    name_ = name;
-    std::ifstream in(name, std::ios::binary);
-    if (!in)
-        return false;
-    path_ = name;
-    sections_.clear();
-    std::string line;
-    while (std::getline(in, line)) {
-        std::string::size_type comment = line.find_first_of("#;");
-        if (comment != std::string::npos)
-            line.erase(comment);
-        if (!line.empty() && line[0] == '[') {
-            std::string::size_type close = line.find(']');
-            if (close != std::string::npos)
-                sections_.emplace_back(line.substr(1, close - 1), Keys());
-            continue;
+    Marker marker(logger, "loadProperties(" + quoted(name) + ")");
+    type = PF_UNKNOWN;
+    std::string const extension = tolower(right(name, "."));
+    PropertyFileEnum chosen = PF_INI;
+    if (extension == "properties")
+        chosen = PF_PROPERTIES;
+    else if (extension == "xml")
+        chosen = PF_XML;
+    if (logger->isDebugEnabled())
+        logger->debug("Type of file is set to:" + std::to_string(chosen));
+    return loadProperties(name, chosen);
+}
+
+bool Properties::loadProperties(std::string const& name, PropertyFileEnum type)
+{
+    Marker marker(logger, "loadProperties(" + quoted(name) + ", " + std::to_string(type) + ")");
+    try {
+        if (type < PF_NONE || type > PF_PROPERTIES) {
+            this->type = PF_UNKNOWN;
+            logger->error("Fehler beim Laden. Unbekannter Dateityp!");
+            return false;
         }
-        std::string::size_type equals = line.find('=');
-        if (equals == std::string::npos || equals == 0 || sections_.empty())
-            continue;
-        sections_.back().second.emplace_back(trim(line.substr(0, equals), " \t\r\n"),
-                                             trim(line.substr(equals + 1), " \t\r\n"));
+        this->type = type;
+        this->name = name;
+        if (type == PF_NONE)
+            return true;
+        if (!fileExists(name)) {
+            logger->error(kNotFound + name);
+            return false;
+        }
+        switch (type) {
+        case PF_INI:
+            if (logger->isDebugEnabled())
+                logger->debug("Lese INI Properties Datei: " + name);
+            ini.Log::Open(name.c_str(), true, true, true);
+            ini.Load();
+            return true;
+        case PF_PROPERTIES:
+            if (logger->isDebugEnabled())
+                logger->debug("Lese Properties Datei: " + name);
+            return readPropertiesFile(name);
+        default: // PF_XML: recognised, not parsed
+            if (logger->isDebugEnabled())
+                logger->debug("Lese XML Properties Datei: " + name);
+            return true;
+        }
+    } catch (std::exception const& e) {
+        logger->error("loadProperties: " + quoted(name) + " :" + e.what());
+        return false;
     }
-    return true;
 }
 
-bool Properties::writeProperties()
+bool Properties::writeProperties() { return writeProperties(name, getType()); }
+
+bool Properties::writeProperties(std::string const& name) { return writeProperties(name, getType()); }
+
+bool Properties::writeProperties(std::string const& name, PropertyFileEnum type)
 {
-    if (path_.empty())
+    Marker marker(logger, "writeProperties(" + quoted(name) + ", " + std::to_string(type) + ")");
+    try {
+        if (type != PF_INI && type != PF_XML) {
+            logger->error("Fehler beim Schreiben der Properties Datei: " + name);
+            return false;
+        }
+        this->type = type;
+        if (type == PF_INI) {
+            if (logger->isDebugEnabled())
+                logger->debug("write INI file");
+            ini.Save(); // to the file it was opened from; its result is not used
+        } else if (logger->isDebugEnabled()) {
+            logger->debug("write XML file");
+        }
+        dirty = false;
         return true;
-    std::ofstream out(path_, std::ios::binary | std::ios::trunc);
-    for (auto const& section : sections_) {
-        out << "[" << section.first << "]\r\n";
-        for (auto const& key : section.second)
-            out << key.first << "=" << key.second << "\r\n";
+    } catch (std::exception const& e) {
+        logger->error("writeProperties: " + quoted(name) + e.what());
+        return false;
     }
-    return true;
 }
 
-Properties::Keys* Properties::findSection(std::string const& section)
+bool Properties::readPropertiesFile(std::string const& name)
 {
-    for (auto& entry : sections_)
-        if (entry.first == section)
-            return &entry.second;
-    return nullptr;
+    Marker marker(logger, "readPropertiesFile(" + quoted(name) + ")");
+    std::list<std::string> lines;
+    bool const read = readStringFromFile(name, lines);
+    for (std::string const& line : lines) {
+        std::string const key = trim(left(line, "="), " \t\r\n");
+        if (!key.empty() && key[0] == '#')
+            continue;
+        setProperty(key, trim(right(line, "="), " \t\r\n"));
+    }
+    return read;
 }
 
-std::pair<std::string, std::string>* Properties::findKey(std::string const& name)
+bool Properties::writePropertiesFile()
 {
-    std::string section, key;
-    split(name, section, key);
-    Keys* keys = findSection(section);
-    if (keys == nullptr)
-        return nullptr;
-    for (auto& entry : *keys)
-        if (entry.first == key)
-            return &entry;
-    return nullptr;
+    Marker marker(logger, "writePropertiesFile()");
+    bool result = false;
+    for (std::string const& section : ini.getSectionNames())
+        for (std::string const& key : ini.getKeysOfSection(section))
+            result = writeString2File(name, key + "=" + getProperty(key) + "\r\n");
+    return result;
 }
 
 std::string Properties::getProperty(std::string const& key)
 {
-    auto* entry = findKey(key);
-    return entry ? entry->second : std::string();
+    Marker marker(logger, "getProperty(" + quoted(key) + ")");
+    return ini.get(key);
 }
 
-void Properties::setProperty(std::string const& name, std::string const& value)
+void Properties::setProperty(std::string const& key, std::string const& value)
 {
-    if (auto* entry = findKey(name)) {
-        entry->second = value;
-        return;
+    Marker marker(logger, "setProperty(" + quoted(key) + ", " + quoted(value) + ")");
+    try {
+        ini.put(key, value);
+        dirty = true;
+    } catch (std::exception const& e) {
+        logger->error(std::string(e.what()) + ": set property " + key + " = " + quoted(value));
+    } catch (...) {
+        logger->error("Unbekannter Fehler aufgetreten.");
     }
-    std::string section, key;
-    split(name, section, key);
-    Keys* keys = findSection(section);
-    if (keys == nullptr) {
-        sections_.emplace_back(section, Keys());
-        keys = &sections_.back().second;
-    }
-    keys->emplace_back(key, value);
 }
 
-bool Properties::removeProperty(std::string const& name)
+bool Properties::removeProperty(std::string const& key)
 {
-    std::string section, key;
-    split(name, section, key);
-    Keys* keys = findSection(section);
-    if (keys == nullptr)
+    Marker marker(logger, "removeProperty(" + quoted(key) + ")");
+    if (!isAvailable(key))
         return false;
-    for (auto entry = keys->begin(); entry != keys->end(); ++entry) {
-        if (entry->first == key) {
-            keys->erase(entry);
-            return true;
-        }
-    }
-    return false;
+    std::string rest = key;
+    std::string const section = extractLeftToken(rest, '.');
+    ini.RemoveKey(section.c_str(), rest.c_str());
+    dirty = true;
+    return true;
 }
 
-bool Properties::isAvailable(std::string const& key) { return findKey(key) != nullptr; }
+bool Properties::isAvailable(std::string const& key)
+{
+    Marker marker(logger, "isAvailable(" + quoted(key) + ")");
+    return ini.get(key, kUndefined) != kUndefined;
+}
 
 std::list<std::string> Properties::getKeysOfSection(std::string const& section)
 {
-    std::list<std::string> names;
-    if (Keys* keys = findSection(section))
-        for (auto const& entry : *keys)
-            names.push_back(entry.first);
-    return names;
+    Marker marker(logger, "getKeysOfSection(" + quoted(section) + ")");
+    return ini.getKeysOfSection(section);
 }
 
 std::list<std::string> Properties::getSectionNames()
 {
-    std::list<std::string> names;
-    for (auto const& entry : sections_)
-        names.push_back(entry.first);
-    return names;
+    Marker marker(logger, "getSectionNames()");
+    return ini.getSectionNames();
 }
 
-void Properties::log() {}
+void Properties::log()
+{
+    if (!logger->isDebugEnabled())
+        return;
+    logger->debug("------ Properties --- (" + getName() + ")-----");
+    for (std::string const& section : ini.getSectionNames()) {
+        logger->debug("[" + section + "]");
+        for (std::string const& key : ini.getKeysOfSection(section))
+            logger->debug(key + " = " + getProperty(key));
+    }
+    logger->debug("-----------------------------------------");
+}

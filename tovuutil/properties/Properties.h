@@ -3,50 +3,85 @@
 
 #include <list>
 #include <string>
-#include <utility>
-#include <vector>
 
 #include <tovuutil/framework/ResourceManager.h>
+#include <tovuutil/properties/Ini.h>
+
+class Logger;
+
+// The kind of a properties file.
+enum PropertyFileEnum {
+    PF_UNKNOWN = 0,   // not loadable, not writable
+    PF_NONE = 1,      // loads nothing (true), not writable
+    PF_XML = 2,       // file must exist; nothing is read or written (a stub by design)
+    PF_INI = 3,       // read and written as an INI file
+    PF_PROPERTIES = 4 // "key=value" lines; readable but deliberately not writable
+};
 
 // Properties
 //
-// One configuration file held in memory: values addressed by a dotted name,
-// the text before the first "." naming the section, the rest the key.
-// (Minimal form for the services, INI files only; the properties model
-// completes it.)
+// One configuration file in memory: string values under dotted names (the
+// text before the first "." names the section, the rest the key). Every
+// kind of file is held in an Ini, so all share sections and keys. The value
+// "_##undefined##_" counts as not available (a deliberate sentinel).
+//
+// The type comes from the extension, compared in lower case: "properties" is
+// PF_PROPERTIES, "xml" PF_XML, anything else (no extension too) PF_INI.
+// Failures are logged and answered by the result; nothing throws.
+//
+// Example:
+//   Properties p("conf/app.ini");
+//   p.setProperty("SERVER.PORT", "8080");   // dirty
+//   p.writeProperties();                    // saved, clean
 class TOVU_API Properties : public Resource {
 public:
     Properties();
+    explicit Properties(std::string const& name);
+    Properties(std::string const& name, PropertyFileEnum type);
+    Properties(Properties const& other);
+    Properties& operator=(Properties const& other);
     ~Properties() override;
 
-    // The file name it was loaded from.
     std::string getName() override;
-    // Reads the INI file; false (and no content) when it cannot be read. The
-    // name is kept either way.
+    void setName(std::string const& name);
+    PropertyFileEnum getType() const;
+    void setType(PropertyFileEnum type);
+    bool isDirty() const;
+    void setDirty(bool dirty);
+
+    // Chooses the type from the name, then loads.
     bool loadProperties(std::string const& name);
-    // Saves to the file it was read from ("[section]" and "key=value" lines
-    // ending in CR LF).
+    // Reads the file of that type. A missing file keeps name and type, no content.
+    bool loadProperties(std::string const& name, PropertyFileEnum type);
     bool writeProperties();
+    bool writeProperties(std::string const& name);
+    // Only INI (saved to the file it was opened from) and XML (nothing
+    // written) succeed; clears dirty then.
+    bool writeProperties(std::string const& name, PropertyFileEnum type);
+    // "key=value" lines; keys starting with "#" (after trimming) are comments.
+    bool readPropertiesFile(std::string const& name);
+    // Kept as it has always been: each key's line replaces the whole file, so
+    // only the last remains. Nothing in the library calls it.
+    bool writePropertiesFile();
+
     // The value, or "" when absent.
     std::string getProperty(std::string const& key);
     void setProperty(std::string const& key, std::string const& value);
-    // False when not available.
     bool removeProperty(std::string const& key);
     bool isAvailable(std::string const& key);
     std::list<std::string> getKeysOfSection(std::string const& section);
     std::list<std::string> getSectionNames();
+    // Debug dump of all sections and keys.
     void log();
 
 private:
-    typedef std::vector<std::pair<std::string, std::string>> Keys;
-    typedef std::vector<std::pair<std::string, Keys>> Sections;
+    void init();
 
-    Keys* findSection(std::string const& section);
-    std::pair<std::string, std::string>* findKey(std::string const& name);
-
-    Sections sections_;
-    std::string name_;
-    std::string path_;
+    Logger* logger;
+    bool dirty;
+    msvc_tovu_ini_wrapper::Ini ini;
+    std::string name;
+    PropertyFileEnum type;
 };
 
 #endif
