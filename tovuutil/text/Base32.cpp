@@ -141,14 +141,32 @@ unsigned long Base32Decode(void* dst, void const* src, unsigned long n)
     requireMultiple(n);
     auto const* in = static_cast<unsigned char const*>(src);
     auto* out = static_cast<unsigned char*>(dst);
-    unsigned long written = 0;
-    for (unsigned long i = 0; i < n; i += 8) {
-        unsigned char const* p = in + i;
-        std::uint64_t const word = kDecode.share[0][p[0]] | kDecode.share[1][p[1]] | kDecode.share[2][p[2]] |
-                                   kDecode.share[3][p[3]] | kDecode.share[4][p[4]] | kDecode.share[5][p[5]] |
-                                   kDecode.share[6][p[6]] | kDecode.share[7][p[7]];
-        // All five bytes are stored (the buffer holds five per block), the
-        // position advances by those the block stands for.
+    unsigned long const blocks = n / 8;
+    auto decodeBlock = [](unsigned char const* p) {
+        return kDecode.share[0][p[0]] | kDecode.share[1][p[1]] | kDecode.share[2][p[2]] | kDecode.share[3][p[3]] |
+               kDecode.share[4][p[4]] | kDecode.share[5][p[5]] | kDecode.share[6][p[6]] | kDecode.share[7][p[7]];
+    };
+
+    // Fast path: every block but the last, as long as none ends in a pad.
+    // Each stores eight bytes; the three beyond its five are overwritten by
+    // the next block.
+    unsigned long block = 0;
+    for (; block + 1 < blocks; ++block) {
+        unsigned char const* p = in + 8 * block;
+        if (p[7] == '=')
+            break;
+        std::uint64_t const word = decodeBlock(p);
+        unsigned char* o = out + 5 * block;
+        for (int k = 0; k < 8; ++k)
+            o[k] = static_cast<unsigned char>(word >> (8 * k));
+    }
+
+    // The rest: all five bytes are stored (the buffer holds five per block),
+    // the position advances by those the block stands for.
+    unsigned long written = 5 * block;
+    for (; block < blocks; ++block) {
+        unsigned char const* p = in + 8 * block;
+        std::uint64_t const word = decodeBlock(p);
         unsigned char* o = out + written;
         for (int k = 0; k < 5; ++k)
             o[k] = static_cast<unsigned char>(word >> (8 * k));
