@@ -25,7 +25,6 @@ public:
 // A generic cache of named resources. A concrete manager supplies load,
 // unload, the canonical key (getFileName) and its one process-wide map;
 // getResource loads on first request and hands out the cached object after.
-// (Minimal form for the services; the resource cache completes it.)
 class TOVU_API ResourceManager {
 public:
     typedef std::map<std::string, Resource*> ResourceMap;
