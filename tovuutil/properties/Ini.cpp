@@ -1,6 +1,7 @@
 #include "tovuutil/properties/Ini.h"
 
 #include <cstring>
+#include <memory>
 #include <stdexcept>
 #include <string_view>
 
@@ -15,6 +16,7 @@ namespace {
 
 constexpr std::size_t kPiece = 19999; // bytes one line read takes at most
 constexpr int kMaxFormatted = 4999;   // longest line the formatted write accepts
+constexpr std::size_t kReadBlock = 256 * 1024;
 
 std::string_view trimmed(std::string_view text)
 {
@@ -100,10 +102,10 @@ bool Ini::Load()
     // and the handle is left where line-by-line reading would have left it.
     long long const start = tovu::detail::tellHandle(handle);
     std::string text;
-    std::vector<char> block(1 << 20);
+    std::unique_ptr<char[]> block(new char[kReadBlock]); // not zeroed: filled by the reads
     long n;
-    while ((n = tovu::detail::readHandle(handle, block.data(), block.size())) > 0)
-        text.append(block.data(), static_cast<std::size_t>(n));
+    while ((n = tovu::detail::readHandle(handle, block.get(), kReadBlock)) > 0)
+        text.append(block.get(), static_cast<std::size_t>(n));
     long long consumed = 0;
     parse(text, consumed);
     if (start >= 0)
@@ -132,8 +134,9 @@ bool Ini::parse(std::string const& text, long long& consumed)
         std::size_t const equals = line.find('=');
         if (equals == std::string_view::npos || equals == 0 || sections.empty())
             continue;
-        sections.back().keys.push_back(
-            Key{std::string(trimmed(line.substr(0, equals))), std::string(trimmed(line.substr(equals + 1))), {}, {}});
+        Key& key = sections.back().keys.emplace_back();
+        key.name.assign(trimmed(line.substr(0, equals)));
+        key.value.assign(trimmed(line.substr(equals + 1)));
     }
     consumed = static_cast<long long>(p);
     return true;
