@@ -4,6 +4,8 @@
 // byte-identical to the peers' before anything is timed.
 #include <benchmark/benchmark.h>
 
+#include "InterleavedMain.h"
+
 #include <openssl/evp.h>
 
 #include <cstdio>
@@ -139,14 +141,4 @@ CODEC_BENCH(BM_Memcpy, (std::memcpy(o, d.raw.data(), d.raw.size()), 0));
 
 } // namespace
 
-int main(int argc, char** argv)
-{
-    std::vector<char*> args(argv, argv + argc);
-    std::string interleave = "--benchmark_enable_random_interleaving=true";
-    args.push_back(interleave.data());
-    int count = static_cast<int>(args.size());
-    benchmark::Initialize(&count, args.data());
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
+TOVU_BENCHMARK_INTERLEAVED_MAIN()

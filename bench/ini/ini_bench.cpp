@@ -3,6 +3,8 @@
 // two-level unordered_map, in one process with interleaved repetitions.
 #include <benchmark/benchmark.h>
 
+#include "InterleavedMain.h"
+
 #include <ini.h>
 
 #include <cstdio>
@@ -127,14 +129,4 @@ BENCHMARK(BM_Load_Inih)->Args({2000, 100})->Args({4, 12})->Repetitions(5)->Repor
 BENCHMARK(BM_Get100k_Tovu)->Repetitions(5)->ReportAggregatesOnly(true)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Get100k_UnorderedMap)->Repetitions(5)->ReportAggregatesOnly(true)->Unit(benchmark::kMillisecond);
 
-int main(int argc, char** argv)
-{
-    std::vector<char*> args(argv, argv + argc);
-    std::string interleave = "--benchmark_enable_random_interleaving=true";
-    args.push_back(interleave.data());
-    int count = static_cast<int>(args.size());
-    benchmark::Initialize(&count, args.data());
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
+TOVU_BENCHMARK_INTERLEAVED_MAIN()

@@ -8,6 +8,8 @@
 //     log4cpp's "tovuLog" category.
 #include <benchmark/benchmark.h>
 
+#include "InterleavedMain.h"
+
 #include <log4cpp/Category.hh>
 
 #include <tovuutil/tovuutil.h>
@@ -54,15 +56,4 @@ BENCHMARK(BM_DisabledDebug_Log4cpp)->Repetitions(5)->ReportAggregatesOnly(true);
 BENCHMARK(BM_LogFileLine_Facade)->Repetitions(5)->ReportAggregatesOnly(true);
 BENCHMARK(BM_LogFileLine_Log4cpp)->Repetitions(5)->ReportAggregatesOnly(true);
 
-int main(int argc, char** argv)
-{
-    // Interleave the repetitions of all benchmarks unless told otherwise.
-    std::vector<char*> args(argv, argv + argc);
-    std::string interleave = "--benchmark_enable_random_interleaving=true";
-    args.push_back(interleave.data());
-    int count = static_cast<int>(args.size());
-    benchmark::Initialize(&count, args.data());
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
+TOVU_BENCHMARK_INTERLEAVED_MAIN()

@@ -4,6 +4,7 @@
 
 #include "tovuutil/files/FileOperation.h"
 #include "tovuutil/framework/Logger.h"
+#include "tovuutil/framework/detail/MethodMarker.h"
 #include "tovuutil/text/StringUtil.h"
 
 namespace {
@@ -12,28 +13,21 @@ constexpr char kUndefined[] = "_##undefined##_";
 constexpr char kNotFound[] = "Folgende Datei kann nicht gefunden werden: ";
 
 std::string quoted(std::string const& text) { return "\"" + text + "\""; }
+std::string argument(std::string const& text) { return quoted(text); }
+std::string argument(PropertyFileEnum type) { return std::to_string(type); }
 
-// Begin and end markers around one operation.
-class Marker {
-public:
-    Marker(Logger* logger, std::string const& text) : logger_(logger), debug_(logger->isDebugEnabled())
-    {
-        if (debug_) {
-            text_ = text;
-            logger_->beginMethod(text_);
-        }
-    }
-    ~Marker()
-    {
-        if (debug_)
-            logger_->endMethod(text_);
-    }
-
-private:
-    Logger* logger_;
-    bool debug_;
-    std::string text_;
-};
+// The marker "<method>(<arguments>)", texts quoted and separated by ", ";
+// built only when DEBUG is on.
+template <class... Args>
+tovu::detail::MethodMarker marked(Logger* logger, char const* method, Args const&... args)
+{
+    return tovu::detail::MethodMarker(logger, [&] {
+        std::string text = std::string(method) + "(";
+        std::string separator;
+        ((text += separator + argument(args), separator = ", "), ...);
+        return text + ")";
+    });
+}
 
 } // namespace
 
@@ -74,7 +68,7 @@ void Properties::setDirty(bool dirty) { this->dirty = dirty; }
 
 bool Properties::loadProperties(std::string const& name)
 {
-    Marker marker(logger, "loadProperties(" + quoted(name) + ")");
+    auto const marker = marked(logger, "loadProperties", name);
     type = PF_UNKNOWN;
     std::string const extension = tolower(right(name, "."));
     PropertyFileEnum chosen = PF_INI;
@@ -89,7 +83,7 @@ bool Properties::loadProperties(std::string const& name)
 
 bool Properties::loadProperties(std::string const& name, PropertyFileEnum type)
 {
-    Marker marker(logger, "loadProperties(" + quoted(name) + ", " + std::to_string(type) + ")");
+    auto const marker = marked(logger, "loadProperties", name, type);
     try {
         if (type < PF_NONE || type > PF_PROPERTIES) {
             this->type = PF_UNKNOWN;
@@ -132,7 +126,7 @@ bool Properties::writeProperties(std::string const& name) { return writeProperti
 
 bool Properties::writeProperties(std::string const& name, PropertyFileEnum type)
 {
-    Marker marker(logger, "writeProperties(" + quoted(name) + ", " + std::to_string(type) + ")");
+    auto const marker = marked(logger, "writeProperties", name, type);
     try {
         if (type != PF_INI && type != PF_XML) {
             logger->error("Fehler beim Schreiben der Properties Datei: " + name);
@@ -156,7 +150,7 @@ bool Properties::writeProperties(std::string const& name, PropertyFileEnum type)
 
 bool Properties::readPropertiesFile(std::string const& name)
 {
-    Marker marker(logger, "readPropertiesFile(" + quoted(name) + ")");
+    auto const marker = marked(logger, "readPropertiesFile", name);
     std::list<std::string> lines;
     bool const read = readStringFromFile(name, lines);
     for (std::string const& line : lines) {
@@ -170,7 +164,7 @@ bool Properties::readPropertiesFile(std::string const& name)
 
 bool Properties::writePropertiesFile()
 {
-    Marker marker(logger, "writePropertiesFile()");
+    auto const marker = marked(logger, "writePropertiesFile");
     bool result = false;
     for (std::string const& section : ini.getSectionNames())
         for (std::string const& key : ini.getKeysOfSection(section))
@@ -180,13 +174,13 @@ bool Properties::writePropertiesFile()
 
 std::string Properties::getProperty(std::string const& key)
 {
-    Marker marker(logger, "getProperty(" + quoted(key) + ")");
+    auto const marker = marked(logger, "getProperty", key);
     return ini.get(key);
 }
 
 void Properties::setProperty(std::string const& key, std::string const& value)
 {
-    Marker marker(logger, "setProperty(" + quoted(key) + ", " + quoted(value) + ")");
+    auto const marker = marked(logger, "setProperty", key, value);
     try {
         ini.put(key, value);
         dirty = true;
@@ -199,7 +193,7 @@ void Properties::setProperty(std::string const& key, std::string const& value)
 
 bool Properties::removeProperty(std::string const& key)
 {
-    Marker marker(logger, "removeProperty(" + quoted(key) + ")");
+    auto const marker = marked(logger, "removeProperty", key);
     if (!isAvailable(key))
         return false;
     std::string rest = key;
@@ -211,19 +205,19 @@ bool Properties::removeProperty(std::string const& key)
 
 bool Properties::isAvailable(std::string const& key)
 {
-    Marker marker(logger, "isAvailable(" + quoted(key) + ")");
+    auto const marker = marked(logger, "isAvailable", key);
     return ini.get(key, kUndefined) != kUndefined;
 }
 
 std::list<std::string> Properties::getKeysOfSection(std::string const& section)
 {
-    Marker marker(logger, "getKeysOfSection(" + quoted(section) + ")");
+    auto const marker = marked(logger, "getKeysOfSection", section);
     return ini.getKeysOfSection(section);
 }
 
 std::list<std::string> Properties::getSectionNames()
 {
-    Marker marker(logger, "getSectionNames()");
+    auto const marker = marked(logger, "getSectionNames");
     return ini.getSectionNames();
 }
 

@@ -3,6 +3,7 @@
 #include "tovuutil/files/FileOperation.h"
 #include "tovuutil/files/PathUtil.h"
 #include "tovuutil/framework/Logger.h"
+#include "tovuutil/framework/detail/MethodMarker.h"
 #include "tovuutil/properties/Properties.h"
 #include "tovuutil/properties/SystemProperties.h"
 #include "tovuutil/text/StringUtil.h"
@@ -14,32 +15,7 @@ constexpr char kDefaultDii[] = "tdf.dii";
 
 std::string quote(std::string const& text) { return "\"" + text + "\""; }
 
-// Brackets one operation with the DEBUG method markers; the text is built
-// only when DEBUG is on.
-class MethodMarker {
-public:
-    template <class MakeText>
-    MethodMarker(Logger* logger, MakeText makeText) : logger_(logger)
-    {
-        if (logger_->isDebugEnabled()) {
-            text_ = makeText();
-            logger_->beginMethod(text_);
-            active_ = true;
-        }
-    }
-    ~MethodMarker()
-    {
-        if (active_)
-            logger_->endMethod(text_);
-    }
-    MethodMarker(MethodMarker const&) = delete;
-    MethodMarker& operator=(MethodMarker const&) = delete;
-
-private:
-    Logger* logger_;
-    std::string text_;
-    bool active_ = false;
-};
+using tovu::detail::MethodMarker;
 
 template <class List>
 std::vector<std::string> toVector(List const& list)

@@ -3,6 +3,7 @@
 #include "tovuutil/files/FileOperation.h"
 #include "tovuutil/files/PathUtil.h"
 #include "tovuutil/framework/Logger.h"
+#include "tovuutil/framework/detail/MethodMarker.h"
 #include "tovuutil/properties/SystemProperties.h"
 
 namespace {
@@ -21,39 +22,11 @@ std::string quoted(char const* method, std::string const& argument)
     return text;
 }
 
-// Brackets one operation with the DEBUG method markers; builds the text only
-// when DEBUG is on.
-class MethodMarker {
-public:
-    MethodMarker(Logger* logger, char const* method, std::string const& argument) : logger_(logger)
-    {
-        if (logger_->isDebugEnabled()) {
-            text_ = quoted(method, argument);
-            logger_->beginMethod(text_);
-            active_ = true;
-        }
-    }
-    MethodMarker(Logger* logger, char const* method) : logger_(logger)
-    {
-        if (logger_->isDebugEnabled()) {
-            text_ = method;
-            logger_->beginMethod(text_);
-            active_ = true;
-        }
-    }
-    ~MethodMarker()
-    {
-        if (active_)
-            logger_->endMethod(text_);
-    }
-    MethodMarker(MethodMarker const&) = delete;
-    MethodMarker& operator=(MethodMarker const&) = delete;
-
-private:
-    Logger* logger_;
-    std::string text_;
-    bool active_ = false;
-};
+// The marker of an operation with its quoted argument, built only when DEBUG is on.
+tovu::detail::MethodMarker marked(Logger* logger, char const* method, std::string const& argument)
+{
+    return tovu::detail::MethodMarker(logger, [&] { return quoted(method, argument); });
+}
 
 } // namespace
 
@@ -76,20 +49,20 @@ SystemPropertiesServiceImpl::~SystemPropertiesServiceImpl()
 
 std::string SystemPropertiesServiceImpl::getSystemProperty(std::string const& key)
 {
-    MethodMarker marker(logger_, "getSystemProperty", key);
+    auto const marker = marked(logger_, "getSystemProperty", key);
     return properties_.getProperty(key);
 }
 
 std::string SystemPropertiesServiceImpl::getSystemProperty(std::string const& key, std::string const& defaultValue)
 {
-    MethodMarker marker(logger_, "getSystemProperty", key);
+    auto const marker = marked(logger_, "getSystemProperty", key);
     std::string value = properties_.getProperty(key);
     return value.empty() ? defaultValue : value;
 }
 
 bool SystemPropertiesServiceImpl::isGetSystemProperty(std::string const& key, std::string& value)
 {
-    MethodMarker marker(logger_, "isGetSystemProperty", key);
+    auto const marker = marked(logger_, "isGetSystemProperty", key);
     if (!isSystemPropertyAvailable(key))
         return false;
     value = getSystemProperty(key);
@@ -98,56 +71,56 @@ bool SystemPropertiesServiceImpl::isGetSystemProperty(std::string const& key, st
 
 void SystemPropertiesServiceImpl::setSystemProperty(std::string const& key, std::string const& value)
 {
-    MethodMarker marker(logger_, "setSystemProperty", key);
+    auto const marker = marked(logger_, "setSystemProperty", key);
     properties_.setProperty(key, value);
 }
 
 bool SystemPropertiesServiceImpl::isSystemPropertyAvailable(std::string const& key)
 {
-    MethodMarker marker(logger_, "isSystemPropertyAvailable", key);
+    auto const marker = marked(logger_, "isSystemPropertyAvailable", key);
     return properties_.isAvailable(key);
 }
 
 bool SystemPropertiesServiceImpl::removeSystemProperty(std::string const& key)
 {
-    MethodMarker marker(logger_, "removeSystemProperty", key);
+    auto const marker = marked(logger_, "removeSystemProperty", key);
     return properties_.removeProperty(key);
 }
 
 std::string SystemPropertiesServiceImpl::getIniHome()
 {
-    MethodMarker marker(logger_, "getIniHome()");
+    tovu::detail::MethodMarker const marker(logger_, "getIniHome()");
     return getSystemProperty(TOVU_PROPERTY_INI_HOME);
 }
 
 std::string SystemPropertiesServiceImpl::getLogHome()
 {
-    MethodMarker marker(logger_, "getLogHome()");
+    tovu::detail::MethodMarker const marker(logger_, "getLogHome()");
     return getSystemProperty(TOVU_PROPERTY_LOG_HOME);
 }
 
 std::string SystemPropertiesServiceImpl::getTempHome()
 {
-    MethodMarker marker(logger_, "getTempHome()");
+    tovu::detail::MethodMarker const marker(logger_, "getTempHome()");
     return getSystemProperty(TOVU_PROPERTY_TEMP_HOME);
 }
 
 std::string SystemPropertiesServiceImpl::getDataHome()
 {
-    MethodMarker marker(logger_, "getDataHome()");
+    tovu::detail::MethodMarker const marker(logger_, "getDataHome()");
     return getSystemProperty(TOVU_PROPERTY_DATA_HOME);
 }
 
 std::string SystemPropertiesServiceImpl::getTovuHome()
 {
-    MethodMarker marker(logger_, "getTovuHome()");
+    tovu::detail::MethodMarker const marker(logger_, "getTovuHome()");
     return getSystemProperty(PROPERTY_TOVU_HOME);
 }
 
 int SystemPropertiesServiceImpl::setHome(char const* key, std::string const& home, bool movesLog)
 {
     // Every setter shows as "setIniHome" in the log, on purpose.
-    MethodMarker marker(logger_, "setIniHome", home);
+    auto const marker = marked(logger_, "setIniHome", home);
     if (home.empty())
         return kHomeEmpty;
     if (fileAccess(home, kWriteAccess) == -1)
@@ -170,13 +143,13 @@ int SystemPropertiesServiceImpl::setTovuHome(std::string const& home) { return s
 
 void SystemPropertiesServiceImpl::log()
 {
-    MethodMarker marker(logger_, "log()");
+    tovu::detail::MethodMarker const marker(logger_, "log()");
     properties_.log();
 }
 
 std::vector<std::pair<std::string, std::string>> SystemPropertiesServiceImpl::getAllSystemProperties()
 {
-    MethodMarker marker(logger_, "getAllProperties()");
+    tovu::detail::MethodMarker const marker(logger_, "getAllProperties()");
     std::vector<std::pair<std::string, std::string>> all;
     for (std::string const& section : properties_.getSectionNames()) {
         for (std::string const& key : properties_.getKeysOfSection(section)) {
