@@ -14,6 +14,7 @@
 #include "tovuutil/files/detail/ErrnoText.h"
 #include "tovuutil/files/detail/HostFileSystem.h"
 #include "tovuutil/framework/Logger.h"
+#include "tovuutil/framework/detail/MethodMarker.h"
 #include "tovuutil/text/Random.h"
 #include "tovuutil/text/StringUtil.h"
 
@@ -476,19 +477,13 @@ char pathExists(std::string const& path)
 
 int changeMode(std::string const& path, int mode)
 {
-    Logger* logger = log();
-    std::string const marker = "changeMode(\"" + path + "\")";
-    if (logger->isDebugEnabled())
-        logger->beginMethod(marker);
+    tovu::detail::MethodMarker const marker(log(), [&] { return "changeMode(\"" + path + "\")"; });
     std::string const p = absolute(path);
-    int result = 0;
     if (tovu::detail::changeFileMode(p, mode) != 0) {
         reportErrno("changeMode", p, ErrnoTable::ChangeMode, errno);
-        result = -1;
+        return -1;
     }
-    if (logger->isDebugEnabled())
-        logger->endMethod(marker);
-    return result;
+    return 0;
 }
 
 std::tm getFileTime(std::string const& path)

@@ -2,6 +2,7 @@
 
 #include "tovuutil/files/PathUtil.h"
 #include "tovuutil/framework/Logger.h"
+#include "tovuutil/framework/detail/MethodMarker.h"
 #include "tovuutil/platform/detail/DynamicLibrary.h"
 #include "tovuutil/text/StringUtil.h"
 
@@ -47,17 +48,14 @@ std::string SharedLib::getError() { return "Unknown Error"; }
 
 void* SharedLib::getSymbol(std::string const& symbol) const
 {
-    std::string const marker = "getSymbol(" + symbol + ")";
-    if (logger->isDebugEnabled()) {
-        logger->beginMethod(marker);
+    tovu::detail::MethodMarker const marker(logger, [&] { return "getSymbol(" + symbol + ")"; });
+    if (logger->isDebugEnabled())
         logger->debug("Get symbol " + symbol);
-    }
     void* address = tovu::detail::findSymbol(module, symbol);
     if (address == nullptr && logger->isErrorEnabled())
         logger->error(replacePattern(
             replacePattern("Symbol '%1' konnte in Shared Library '%2' nicht gefunden werden.", "%2", name), "%1",
             symbol));
-    logger->endMethod(marker);
     return address;
 }
 
