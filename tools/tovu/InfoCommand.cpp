@@ -54,6 +54,11 @@ int runInfo(std::ostream& out)
 {
     out << "[library]\n";
     out << "version = " << TOVUUTIL_VERSION << '\n';
+    char buffer[32] = {0};
+    getTovuSharedLibProductversion(buffer);
+    out << "product version = " << buffer << '\n';
+    getTovuSharedLibFileversion(buffer);
+    out << "file version = " << buffer << '\n';
     out << "log directory = " << log4cxx::Log4cxx::getLogDirectory() << '\n';
     printServices(out);
     printSystemProperties(out);
