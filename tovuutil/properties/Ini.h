@@ -115,6 +115,23 @@ public:
     bool RemoveSection(char const* section);
     bool RemoveKey(char const* section, char const* key);
 
+    // The same with standard strings.
+    bool Open(std::string const& path) { return Open(path.c_str()); }
+    bool SectionExists(std::string const& section) { return SectionExists(section.c_str()); }
+    bool KeyExists(std::string const& section, std::string const& key) { return KeyExists(section.c_str(), key.c_str()); }
+    bool ReadKey(std::string const& key, std::string const& section, std::string& value,
+                 std::string const& defaultValue)
+    {
+        return ReadKey(key.c_str(), section.c_str(), value, defaultValue.c_str());
+    }
+    bool WriteKey(std::string const& section, std::string const& key, std::string const& value)
+    {
+        return WriteKey(section.c_str(), key.c_str(), value.c_str());
+    }
+    bool AddSection(std::string const& section) { return AddSection(section.c_str()); }
+    bool RemoveSection(std::string const& section) { return RemoveSection(section.c_str()); }
+    bool RemoveKey(std::string const& section, std::string const& key) { return RemoveKey(section.c_str(), key.c_str()); }
+
     // "section.key": the section is the text before the first ".".
     std::string get(std::string const& name);
     std::string get(std::string const& name, std::string const& defaultValue);
