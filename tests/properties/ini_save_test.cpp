@@ -82,6 +82,10 @@ TEST(IniSave, UnwritablePlacesGiveFalse)
     ini.put("s.k", "v");
     EXPECT_FALSE(ini.Save());
     EXPECT_EQ(ini.get("s.k"), "v"); // the content in memory stays
+
+    Ini never;
+    never.put("s.k", "v");
+    EXPECT_FALSE(never.Save()); // no path: nothing is created anywhere
 }
 
 TEST(PlainLog, WritesInTextMode)

@@ -176,6 +176,8 @@ bool Ini::writeFile(std::string const& content, bool& opened)
         return false;
     };
 
+    if (path.empty())
+        return false; // never opened: there is no file to write
     std::string const target = tovu::detail::realTarget(path);
     std::string sibling;
     int const temporary = tovu::detail::createSibling(target, sibling);
