@@ -21,8 +21,10 @@ constexpr std::uint8_t value(int c)
     return kForeign;
 }
 
+// Byte -> two digits.
+constexpr auto kEncode = tovu::detail::makePairTable<4>(kDigits);
+
 struct Tables {
-    char pair[256][2];           // byte -> two digits
     std::uint8_t byte[256][256]; // two characters -> ((v0 << 4) | v1) cut to 8 bits
 };
 
@@ -30,8 +32,6 @@ constexpr Tables makeTables()
 {
     Tables t{};
     for (int c = 0; c < 256; ++c) {
-        t.pair[c][0] = kDigits[c >> 4];
-        t.pair[c][1] = kDigits[c & 15];
         for (int d = 0; d < 256; ++d)
             t.byte[c][d] = static_cast<std::uint8_t>((value(c) << 4) | value(d));
     }
@@ -52,7 +52,7 @@ unsigned long Base16Encode(void* dst, void const* src, unsigned long n)
     auto const* in = static_cast<unsigned char const*>(src);
     char* out = static_cast<char*>(dst);
     for (unsigned long i = 0; i < n; ++i)
-        std::memcpy(out + 2 * i, kTables.pair[in[i]], 2);
+        std::memcpy(out + 2 * i, kEncode.pair[in[i]], 2);
     return 2 * n;
 }
 
@@ -60,24 +60,16 @@ unsigned long Base16Encode(void* dst, void const* src, unsigned long n)
 
 namespace BaseDecode {
 
-namespace {
-void requireMultiple(unsigned long n)
-{
-    if (n % 2 != 0)
-        throw std::runtime_error("Invalid source, size is not a multiple of 2");
-}
-} // namespace
-
 unsigned long Base16DecodeGetLength(unsigned long n)
 {
-    requireMultiple(n);
+    tovu::detail::requireMultiple(n, 2);
     return n / 2;
 }
 
 unsigned long Base16Decode(void* dst, void const* src, unsigned long n)
 {
     tovu::detail::requireBuffers(dst, src);
-    requireMultiple(n);
+    tovu::detail::requireMultiple(n, 2);
     auto const* in = static_cast<unsigned char const*>(src);
     auto* out = static_cast<unsigned char*>(dst);
     unsigned long const bytes = n / 2;

@@ -55,21 +55,7 @@ constexpr DecodeTables makeDecodeTables()
 constexpr DecodeTables kDecode = makeDecodeTables();
 
 // Two characters for every 10 bits of input: four look-ups per block.
-struct EncodeTable {
-    char pair[1024][2];
-};
-
-constexpr EncodeTable makeEncodeTable()
-{
-    EncodeTable t{};
-    for (int i = 0; i < 1024; ++i) {
-        t.pair[i][0] = kAlphabet[i >> 5];
-        t.pair[i][1] = kAlphabet[i & 31];
-    }
-    return t;
-}
-
-constexpr EncodeTable kEncode = makeEncodeTable();
+constexpr auto kEncode = tovu::detail::makePairTable<5>(kAlphabet);
 
 // Characters of a block's last group for 1 to 4 trailing bytes, and its pads.
 constexpr unsigned kCharsFor[5] = {0, 2, 4, 5, 7};
@@ -109,12 +95,6 @@ unsigned long Base32Encode(void* dst, void const* src, unsigned long n)
 namespace BaseDecode {
 
 namespace {
-void requireMultiple(unsigned long n)
-{
-    if (n % 8 != 0)
-        throw std::runtime_error("Invalid source, size is not a multiple of 8");
-}
-
 // A block's trailing pads, read from the back (8th, 7th, 5th, 3rd character),
 // each standing for one byte less.
 unsigned long bytesOfBlock(unsigned char const* block)
@@ -131,14 +111,14 @@ unsigned long bytesOfBlock(unsigned char const* block)
 
 unsigned long Base32DecodeGetLength(unsigned long n)
 {
-    requireMultiple(n);
+    tovu::detail::requireMultiple(n, 8);
     return n / 8 * 5;
 }
 
 unsigned long Base32Decode(void* dst, void const* src, unsigned long n)
 {
     tovu::detail::requireBuffers(dst, src);
-    requireMultiple(n);
+    tovu::detail::requireMultiple(n, 8);
     auto const* in = static_cast<unsigned char const*>(src);
     auto* out = static_cast<unsigned char*>(dst);
     unsigned long const blocks = n / 8;

@@ -60,21 +60,7 @@ std::uint32_t decodeBlock(unsigned char const* p)
 }
 
 // Two characters per 12 bits of input: one table look-up per half block.
-struct EncodeTable {
-    char pair[4096][2];
-};
-
-constexpr EncodeTable makeEncodeTable()
-{
-    EncodeTable t{};
-    for (int i = 0; i < 4096; ++i) {
-        t.pair[i][0] = kAlphabet[i >> 6];
-        t.pair[i][1] = kAlphabet[i & 63];
-    }
-    return t;
-}
-
-constexpr EncodeTable kEncode = makeEncodeTable();
+constexpr auto kEncode = tovu::detail::makePairTable<6>(kAlphabet);
 
 } // namespace
 
@@ -113,24 +99,16 @@ unsigned long Base64Encode(void* dst, void const* src, unsigned long n)
 
 namespace BaseDecode {
 
-namespace {
-void requireMultiple(unsigned long n)
-{
-    if (n % 4 != 0)
-        throw std::runtime_error("Invalid source, size is not a multiple of 4");
-}
-} // namespace
-
 unsigned long Base64DecodeGetLength(unsigned long n)
 {
-    requireMultiple(n);
+    tovu::detail::requireMultiple(n, 4);
     return n / 4 * 3;
 }
 
 unsigned long Base64Decode(void* dst, void const* src, unsigned long n)
 {
     tovu::detail::requireBuffers(dst, src);
-    requireMultiple(n);
+    tovu::detail::requireMultiple(n, 4);
     auto const* in = static_cast<unsigned char const*>(src);
     auto* out = static_cast<unsigned char*>(dst);
     unsigned long const blocks = n / 4;
