@@ -1,67 +1,143 @@
 #include <tovuutil/tovuutil.h>
 
+#include <cstdio>
+#include <utility>
+
 #include "Commands.h"
+
+namespace tovu::cli {
 
 namespace {
 
-char const* const kServiceNames[] = {"SystemPropertiesService", "PropertiesService", "SharedLibService", "GUIService"};
+constexpr char kHelp[] =
+    "usage: tovu info [--json]\n\n"
+    "Prints the library's versions, its services, every system property and the\n"
+    "facts about this machine, as a table or (--json) as one JSON object of\n"
+    "sections.\n";
 
-void printServices(std::ostream& out)
+using Section = std::pair<std::string, std::vector<std::pair<std::string, std::string>>>;
+
+char const* const kServiceNames[] = {"SystemPropertiesService", "PropertiesService", "SharedLibService",
+                                     "GUIService"};
+
+Section library()
 {
-    out << "[services]\n";
+    char product[32] = {0};
+    char file[32] = {0};
+    getTovuSharedLibProductversion(product);
+    getTovuSharedLibFileversion(file);
+    return {"library",
+            {{"version", TOVUUTIL_VERSION},
+             {"product version", product},
+             {"file version", file},
+             {"log directory", log4cxx::Log4cxx::getLogDirectory()}}};
+}
+
+Section services()
+{
+    Section section{"services", {}};
     for (int type = 0; type < 4; ++type) {
         Service* service = UtilServiceFactory::getService(type);
-        out << type << " = " << kServiceNames[type] << (service && service->isAvailable() ? "" : " (missing)")
-            << '\n';
+        bool const available = service != nullptr && service->isAvailable();
+        section.second.emplace_back(std::to_string(type), std::string(kServiceNames[type]) + (available ? "" : " (missing)"));
+    }
+    return section;
+}
+
+Section systemProperties()
+{
+    Section section{"system properties", {}};
+    if (auto* service = static_cast<SystemPropertiesService*>(UtilServiceFactory::getService(0)))
+        section.second = service->getAllSystemProperties();
+    return section;
+}
+
+Section machine()
+{
+    TovuSystemInformation info;
+    return {"machine",
+            {{"operating system", info.getOsName()},
+             {"edition", info.getOsZusatz()},
+             {"patch level", info.getPatchLevel()},
+             {"version", info.getOsVersion()},
+             {"kernel version", info.getKernelVersion()},
+             {"build", info.getBuildNumber()},
+             {"system type", info.getOsTypeAsString()},
+             {"architecture", info.getArchitecture()},
+             {"processors", std::to_string(info.getNumProcessors())},
+             {"total memory", std::to_string(info.getTotalMemory())},
+             {"free memory", std::to_string(info.getFreeMemory())},
+             {"total swap", std::to_string(info.getTotalSwap())},
+             {"free swap", std::to_string(info.getFreeSwap())},
+             {"computer name", getLocalComputerName()},
+             {"ip address", getLocalIPAddress()},
+             {"mac address", getMacAddress()}}};
+}
+
+void printTable(std::vector<Section> const& sections)
+{
+    for (auto const& section : sections) {
+        std::size_t width = 0;
+        for (auto const& entry : section.second)
+            width = std::max(width, entry.first.size());
+        out() << '[' << section.first << "]\n";
+        for (auto const& entry : section.second)
+            out() << "  " << toTerminal(entry.first) << std::string(width - entry.first.size(), ' ') << "  "
+                  << toTerminal(entry.second) << '\n';
     }
 }
 
-void printSystemProperties(std::ostream& out)
+std::string jsonString(std::string const& text)
 {
-    out << "[system properties]\n";
-    auto* service = static_cast<SystemPropertiesService*>(UtilServiceFactory::getService(0));
-    if (service == nullptr)
-        return;
-    for (auto const& property : service->getAllSystemProperties())
-        out << property.first << " = " << property.second << '\n';
+    std::string result = "\"";
+    for (char c : toTerminal(text)) {
+        unsigned char const byte = static_cast<unsigned char>(c);
+        if (c == '"' || c == '\\') {
+            result += '\\';
+            result += c;
+        } else if (byte < 0x20) {
+            char escape[8];
+            std::snprintf(escape, sizeof escape, "\\u%04x", byte);
+            result += escape;
+        } else {
+            result += c;
+        }
+    }
+    return result + '"';
 }
 
-void printMachine(std::ostream& out)
+void printJson(std::vector<Section> const& sections)
 {
-    TovuSystemInformation info;
-    out << "[machine]\n";
-    out << "operating system = " << info.getOsName() << '\n';
-    out << "edition = " << info.getOsZusatz() << '\n';
-    out << "patch level = " << info.getPatchLevel() << '\n';
-    out << "version = " << info.getOsVersion() << '\n';
-    out << "kernel version = " << info.getKernelVersion() << '\n';
-    out << "build = " << info.getBuildNumber() << '\n';
-    out << "system type = " << info.getOsTypeAsString() << '\n';
-    out << "architecture = " << info.getArchitecture() << '\n';
-    out << "processors = " << info.getNumProcessors() << '\n';
-    out << "total memory = " << info.getTotalMemory() << '\n';
-    out << "free memory = " << info.getFreeMemory() << '\n';
-    out << "total swap = " << info.getTotalSwap() << '\n';
-    out << "free swap = " << info.getFreeSwap() << '\n';
-    out << "computer name = " << getLocalComputerName() << '\n';
-    out << "ip address = " << getLocalIPAddress() << '\n';
-    out << "mac address = " << getMacAddress() << '\n';
+    out() << "{";
+    char const* sectionSeparator = "\n";
+    for (auto const& section : sections) {
+        out() << sectionSeparator << "  " << jsonString(section.first) << ": {";
+        char const* separator = "\n";
+        for (auto const& entry : section.second) {
+            out() << separator << "    " << jsonString(entry.first) << ": " << jsonString(entry.second);
+            separator = ",\n";
+        }
+        out() << "\n  }";
+        sectionSeparator = ",\n";
+    }
+    out() << "\n}\n";
 }
 
 } // namespace
 
-int runInfo(std::ostream& out)
+int runInfo(Args const& args)
 {
-    out << "[library]\n";
-    out << "version = " << TOVUUTIL_VERSION << '\n';
-    char buffer[32] = {0};
-    getTovuSharedLibProductversion(buffer);
-    out << "product version = " << buffer << '\n';
-    getTovuSharedLibFileversion(buffer);
-    out << "file version = " << buffer << '\n';
-    out << "log directory = " << log4cxx::Log4cxx::getLogDirectory() << '\n';
-    printServices(out);
-    printSystemProperties(out);
-    printMachine(out);
-    return 0;
+    if (helpRequested(args, kHelp))
+        return kOk;
+    bool const json = args.size() == 1 && args[0] == "--json";
+    if (!args.empty() && !json)
+        return usageError("info", "unexpected argument '" + args[0] + "'");
+    std::vector<Section> const sections = {library(), services(), systemProperties(), machine()};
+    if (json)
+        printJson(sections);
+    else
+        printTable(sections);
+    return kOk;
 }
+
+} // namespace tovu::cli
