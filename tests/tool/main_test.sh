@@ -6,7 +6,7 @@ expect 0 "tovu $version"$'\n' "" --version
 expect_status 0 --help
 expect_status 2
 expect_status 2 frobnicate
-for command in info; do
+for command in info check; do
     expect_status 0 "$command" --help
 done
 expect 2 "" $'tovu: info: unexpected argument \'x\'\nTry \'tovu info --help\'.\n' info x
