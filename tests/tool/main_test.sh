@@ -9,6 +9,9 @@ expect_status 2 frobnicate
 for command in info check; do
     expect_status 0 "$command" --help
 done
+for command in encode decode ini props lib; do
+    expect_status 0 "$command" --help
+done
 expect 2 "" $'tovu: info: unexpected argument \'x\'\nTry \'tovu info --help\'.\n' info x
 
 # info prints every section, in table and JSON form, and the versions exactly.

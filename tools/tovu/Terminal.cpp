@@ -74,13 +74,41 @@ bool decodeUtf8(std::string const& text, std::u32string& codes)
     return true;
 }
 
+// Passes the library's Windows-1252 log lines on to the terminal as UTF-8.
+class Utf8Forwarder : public std::streambuf {
+public:
+    explicit Utf8Forwarder(std::streambuf* target) : target_(target) {}
+
+protected:
+    int_type overflow(int_type c) override
+    {
+        if (traits_type::eq_int_type(c, traits_type::eof()))
+            return traits_type::not_eof(c);
+        char const byte = traits_type::to_char_type(c);
+        return xsputn(&byte, 1) == 1 ? c : traits_type::eof();
+    }
+    std::streamsize xsputn(char const* text, std::streamsize size) override
+    {
+        std::string const converted = toTerminal(std::string(text, static_cast<std::size_t>(size)));
+        auto const length = static_cast<std::streamsize>(converted.size());
+        return target_->sputn(converted.data(), length) == length ? size : 0;
+    }
+    int sync() override { return target_->pubsync(); }
+
+private:
+    std::streambuf* target_;
+};
+
 } // namespace
 
 std::ostream& out()
 {
     // The library's console appender holds std::cout; from the first call on
-    // it writes to standard error, and the tool keeps standard output to itself.
-    static std::ostream own(std::cout.rdbuf(std::cerr.rdbuf()));
+    // it writes to standard error, and the tool keeps standard output to
+    // itself. The forwarder is never deleted: the library may still log while
+    // the process ends.
+    static auto* const forwarder = new Utf8Forwarder(std::cerr.rdbuf());
+    static std::ostream own(std::cout.rdbuf(forwarder));
     return own;
 }
 
