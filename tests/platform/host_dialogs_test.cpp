@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <stdexcept>
 
 #include <tovuutil/tovuutil.h>
@@ -124,4 +125,33 @@ TEST(HostDialogs, MarkersNameTheOperations)
                                     "[c]: t",
                                     "End Method  : tovuutil.GUIServiceImpl::messageBox(t, c, 4)",
                                 }));
+}
+
+TEST(HostDialogs, TheTestSwitchInTdfDiiTurnsDialogsOff)
+{
+    tovutest::TempDir home;
+    auto* system = static_cast<SystemPropertiesService*>(UtilServiceFactory::getService(0));
+    ASSERT_EQ(system->setIniHome(home.path()), 0);
+    std::FILE* file = std::fopen((home.path() + "/tdf.dii").c_str(), "wb");
+    ASSERT_NE(file, nullptr);
+    std::fputs("[TEST]\r\nNO_DIALOG=TRUE\r\n", file);
+    std::fclose(file);
+
+    gui()->registerMessageBox(recordMessage);
+    gui()->registerCloseProgressDialog(closeProgress);
+    testing::internal::CaptureStdout();
+    EXPECT_FALSE(isDialogEnabled());
+    EXPECT_EQ(messageBox("m", "c", 0), 0);
+    EXPECT_EQ(closeDialog(), 0);
+    EXPECT_EQ(calls.count, 0);
+
+    // Only the exact upper-case value counts; the file is asked on every call.
+    auto* properties = static_cast<PropertiesService*>(UtilServiceFactory::getService(1));
+    for (char const* value : {"true", "TRUE ", ""}) {
+        properties->setProperty("tdf.dii", "TEST.NO_DIALOG", value);
+        EXPECT_TRUE(isDialogEnabled()) << '"' << value << '"';
+    }
+    EXPECT_EQ(messageBox("m", "c", 0), 7);
+    EXPECT_EQ(calls.count, 1);
+    testing::internal::GetCapturedStdout();
 }

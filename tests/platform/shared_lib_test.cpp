@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include <dlfcn.h>
+
 #include <tovuutil/tovuutil.h>
 
 #include "framework/LogCapture.h"
@@ -83,4 +85,25 @@ TEST(SharedLib, ASingleLibraryObject)
     EXPECT_NE(library.getSymbol("cos"), nullptr);
     EXPECT_TRUE(library.unload());
     EXPECT_EQ(library.getSymbol("cos"), nullptr);
+}
+
+TEST(SharedLib, TheMathLibraryByEquivalentNames)
+{
+    // Only versioned names load the system's libraries: the plain "libm.so" is
+    // a linker script, not a library.
+    std::string const direct = service()->loadSharedLib("libm.so.6");
+    EXPECT_EQ(direct, "libm.so.6");
+    EXPECT_EQ(service()->loadSharedLib("libm.so.6"), direct);
+    auto cosine = reinterpret_cast<double (*)(double)>(service()->getSymbol("libm.so.6", "cos"));
+    ASSERT_NE(cosine, nullptr);
+    EXPECT_EQ(cosine(0.0), 1.0);
+
+    // A path to the same file is another name, cached on its own.
+    Dl_info info{};
+    ASSERT_NE(dladdr(reinterpret_cast<void*>(cosine), &info), 0);
+    std::string const path = info.dli_fname;
+    EXPECT_EQ(service()->loadSharedLib(path), path);
+    EXPECT_EQ(service()->getSymbol(path, "cos"), reinterpret_cast<void*>(cosine));
+    SharedLibResourceManager manager;
+    EXPECT_EQ(manager.getResourceMap().size(), 2u);
 }

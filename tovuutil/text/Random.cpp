@@ -16,6 +16,10 @@ void Random::setSeed(unsigned seed)
     std::srand(seed);
 }
 
+bool Random::isSeeded() const { return seeded_; }
+
+unsigned Random::getSeed() const { return seed_; }
+
 int Random::random()
 {
     if (!seeded_) {
@@ -23,4 +27,27 @@ int Random::random()
         setSeed(static_cast<unsigned>(ticks) ^ static_cast<unsigned>(ticks >> 32));
     }
     return std::rand();
+}
+
+int Random::random(int bound)
+{
+    if (bound < 1)
+        return 0;
+    long long const range = static_cast<long long>(RAND_MAX) + 1;
+    long long const limit = bound > range ? range : bound;
+    // Draws from the part of the range that splits evenly into limit buckets.
+    long long const usable = range - range % limit;
+    long long draw;
+    do {
+        draw = random();
+    } while (draw >= usable);
+    return static_cast<int>(draw % limit);
+}
+
+std::string Random::randomString(std::size_t length)
+{
+    std::string text(length, '\0');
+    for (char& c : text)
+        c = kAlphabet[random(static_cast<int>(kAlphabetSize))];
+    return text;
 }
