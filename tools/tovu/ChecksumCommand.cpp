@@ -1,7 +1,29 @@
+#include <tovuutil/tovuutil.h>
+
 #include "Commands.h"
 
 namespace tovu::cli {
 
-int runChecksum(Args const&) { return kUsage; }
+namespace {
+
+constexpr char kHelp[] =
+    "usage: tovu checksum TEXT\n\n"
+    "Prints the checksum of TEXT: the sum of its decimal digits; every other\n"
+    "character is skipped.\n\n"
+    "example: tovu checksum 12-34          prints 10\n";
+
+} // namespace
+
+int runChecksum(Args const& args)
+{
+    if (helpRequested(args, kHelp))
+        return kOk;
+    if (args.empty())
+        return usageError("checksum", "no text given");
+    if (args.size() > 1)
+        return usageError("checksum", "unexpected argument '" + args[1] + "' (quote a text with blanks)");
+    out() << checkSum(fromTerminal(args[0])) << '\n';
+    return kOk;
+}
 
 } // namespace tovu::cli
