@@ -6,7 +6,7 @@ expect 0 "tovu $version"$'\n' "" --version
 expect_status 0 --help
 expect_status 2
 expect_status 2 frobnicate
-for command in info check basen checksum; do
+for command in info check basen checksum time; do
     expect_status 0 "$command" --help
 done
 for command in encode decode ini props lib; do
