@@ -18,7 +18,7 @@ constexpr char kHelp[] =
     "otherwise. Codes (upper or lower case):\n\n"
     "  number fields  N whole number       U whole number, no minus  O digits only\n"
     "                 G positive number    M non-zero number         Y 1 or 2\n"
-    "                 J 1                  P amount (two decimals)   R positive amount\n"
+    "                 J 1                  P amount (two decimals)   R amount > 0\n"
     "                 S non-zero amount    PROZENT amount >= 0\n"
     "                 F number >= 0, at most four decimals\n"
     "                 V number with at most four decimals; without a comma at most\n"
