@@ -6,8 +6,9 @@ ASAN_BUILD  ?= build-asan
 BENCH_BUILD ?= build-bench
 DEPS        := liblog4cpp5-dev libboost-dev libgtest-dev libgmock-dev libbenchmark-dev cmake g++ pkg-config make
 BENCH_DEPS  := libmodpbase64-dev libssl-dev libinih-dev
+PACKAGE_DEPS := dpkg-dev file
 
-.PHONY: run test bench deps bench-deps build build-asan clean
+.PHONY: run test bench package deps bench-deps package-deps build build-asan clean
 
 run: build
 	./$(BUILD)/tools/tovu/tovu info
@@ -20,6 +21,10 @@ bench: bench-deps
 	cmake -S . -B $(BENCH_BUILD) -DCMAKE_BUILD_TYPE=Release -DTOVU_BUILD_TESTS=OFF -DTOVU_BUILD_BENCH=ON
 	cmake --build $(BENCH_BUILD) -j$(JOBS)
 	cmake --build $(BENCH_BUILD) --target run-benchmarks
+
+# A Debian package of the library, headers, CMake and pkg-config files and tovu.
+package: package-deps build
+	cd $(BUILD) && cpack -G DEB
 
 build: deps
 	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo
@@ -38,6 +43,13 @@ deps:
 
 bench-deps: deps
 	@missing=$$(for p in $(BENCH_DEPS); do dpkg -s $$p >/dev/null 2>&1 || echo $$p; done); \
+	if [ -n "$$missing" ]; then \
+	  echo "installing:$$missing"; \
+	  apt-get update -qq && DEBIAN_FRONTEND=noninteractive apt-get install -y -qq $$missing; \
+	fi
+
+package-deps: deps
+	@missing=$$(for p in $(PACKAGE_DEPS); do dpkg -s $$p >/dev/null 2>&1 || echo $$p; done); \
 	if [ -n "$$missing" ]; then \
 	  echo "installing:$$missing"; \
 	  apt-get update -qq && DEBIAN_FRONTEND=noninteractive apt-get install -y -qq $$missing; \

@@ -1,12 +1,19 @@
 #!/bin/sh
-# Installs the built library into a scratch prefix, then builds and runs the
-# consumer once through the CMake package and once through pkg-config.
+# Installs the built library into a scratch prefix, moves the prefix, then
+# builds and runs the consumer once through the CMake package and once
+# through pkg-config: the installed files must not depend on where they lie.
 # Arguments: <build dir> <consumer source dir> <scratch dir> <version>
 set -eu
 build=$1 source=$2 scratch=$3 version=$4
 rm -rf "$scratch"
-prefix=$scratch/prefix
-cmake --install "$build" --prefix "$prefix" >/dev/null
+cmake --install "$build" --prefix "$scratch/installed" >/dev/null
+prefix=$scratch/moved
+mv "$scratch/installed" "$prefix"
+sources=$(cd "$source/../../.." && pwd)
+if grep -rlF -e "$build" -e "$sources" -e "$scratch/installed" "$prefix/lib/cmake" "$prefix/lib/pkgconfig" "$prefix/include"; then
+    echo "installed files name build or source paths" >&2
+    exit 1
+fi
 libdir=$(dirname "$(find "$prefix" -name 'libtovuutil.so' | head -n 1)")
 
 # The link chain and the version stamped into every artefact.
