@@ -120,20 +120,11 @@ int runCheck(Args const& args)
     if (helpRequested(args, kHelp))
         return kOk;
     Args positional;
-    std::string year;
-    bool hasYear = false;
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        if (args[i] != "--year") {
-            positional.push_back(args[i]);
-            continue;
-        }
-        if (i + 1 == args.size())
-            return usageError("check", "--year needs a year");
-        year = args[++i];
-        hasYear = true;
-        if (!isYear(year))
-            return usageError("check", "'" + year + "' is not a year of four digits");
-    }
+    std::optional<std::string> year;
+    if (!splitOption("check", args, "--year", "year", positional, year))
+        return kUsage;
+    if (year && !isYear(*year))
+        return usageError("check", "'" + *year + "' is not a year of four digits");
     if (positional.empty())
         return usageError("check", "no format code given");
     std::string const code = upper(positional[0]);
@@ -150,7 +141,7 @@ int runCheck(Args const& args)
             date = &candidate;
     if (field == nullptr && date == nullptr)
         return usageError("check", "unknown format code '" + positional[0] + "'");
-    if (hasYear && (date == nullptr || date->checkInYear == nullptr))
+    if (year && (date == nullptr || date->checkInYear == nullptr))
         return usageError("check", "--year applies to the codes T and B only");
 
     int status = kOk;
@@ -159,7 +150,7 @@ int runCheck(Args const& args)
         std::string const text = fromTerminal(value);
         std::list<int> errors;
         if (date != nullptr)
-            errors = hasYear ? date->checkInYear(text, year) : date->check(text);
+            errors = year ? date->checkInYear(text, *year) : date->check(text);
         bool const valid = date != nullptr ? errors.empty() : field->accepts(text);
         out() << value << (valid ? ": valid\n" : ": invalid\n");
         for (int error : errors)

@@ -159,6 +159,22 @@ bool helpRequested(Args const& args, char const* help)
     return false;
 }
 
+bool splitOption(std::string const& command, Args const& args, std::string const& option, char const* what,
+                 Args& rest, std::optional<std::string>& value)
+{
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        if (args[i] != option) {
+            rest.push_back(args[i]);
+        } else if (i + 1 == args.size()) {
+            usageError(command, option + " needs a " + what);
+            return false;
+        } else {
+            value = args[++i];
+        }
+    }
+    return true;
+}
+
 int finish(int status)
 {
     if (out().flush() && std::fflush(stdout) == 0)

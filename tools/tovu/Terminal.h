@@ -1,6 +1,7 @@
 #ifndef TOVU_TOOL_TERMINAL_H
 #define TOVU_TOOL_TERMINAL_H
 
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -37,6 +38,12 @@ int failure(std::string const& command, std::string const& message);
 // True when args holds "--help" or "-h"; then the text is printed on standard
 // output. Commands call it first and return kOk when it answers true.
 bool helpRequested(Args const& args, char const* help);
+
+// Takes "OPTION VALUE" out of args: rest gets the other arguments in order,
+// value the option's value (the last one given). An option without a value is
+// a usage error "OPTION needs a WHAT"; then it returns false.
+bool splitOption(std::string const& command, Args const& args, std::string const& option, char const* what,
+                 Args& rest, std::optional<std::string>& value);
 
 // Flushes standard output; reports a failed write (a full device) and returns
 // kInvalid, otherwise returns status unchanged.

@@ -79,27 +79,17 @@ int runTime(Args const& args)
     if (helpRequested(args, kHelp))
         return kOk;
     Args positional;
-    std::string format;
-    bool hasFormat = false;
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        if (args[i] != "--format") {
-            positional.push_back(args[i]);
-            continue;
-        }
-        if (i + 1 == args.size())
-            return usageError("time", "--format needs a format");
-        format = args[++i];
-        hasFormat = true;
-    }
+    std::optional<std::string> format;
+    if (!splitOption("time", args, "--format", "format", positional, format))
+        return kUsage;
     if (positional.empty())
         return usageError("time", "'add', 'sub' or 'format' expected");
     std::string const& command = positional[0];
     bool const formatCommand = command == "format";
     if (!formatCommand && command != "add" && command != "sub")
         return usageError("time", "unknown sub-command '" + command + "'");
-    if (formatCommand && !hasFormat && positional.size() >= 3) {
+    if (formatCommand && !format && positional.size() >= 3) {
         format = positional[2];
-        hasFormat = true;
         positional.erase(positional.begin() + 2);
     }
     std::size_t const wanted = formatCommand ? 2 : 3;
@@ -120,7 +110,7 @@ int runTime(Args const& args)
         else
             time -= duration;
     }
-    print(time, hasFormat ? &format : nullptr);
+    print(time, format ? &*format : nullptr);
     return kOk;
 }
 
