@@ -6,7 +6,11 @@
 set -eu
 build=$1 source=$2 scratch=$3 version=$4
 rm -rf "$scratch"
-cmake --install "$build" --prefix "$scratch/installed" >/dev/null
+mkdir -p "$scratch"
+cmake --install "$build" --prefix "$scratch/installed" >"$scratch/install.log"
+# Every file is installed once.
+duplicates=$(grep -o 'Installing: .*' "$scratch/install.log" | sort | uniq -d)
+test -z "$duplicates" || { echo "installed twice: $duplicates" >&2; exit 1; }
 prefix=$scratch/moved
 mv "$scratch/installed" "$prefix"
 sources=$(cd "$source/../../.." && pwd)
@@ -23,7 +27,11 @@ test "$(readlink "$libdir/libtovuutil.so.$major")" = "libtovuutil.so.$version"
 objdump -p "$libdir/libtovuutil.so.$version" | grep -q "SONAME *libtovuutil.so.$major"
 grep -q "PACKAGE_VERSION \"$version\"" "$libdir/cmake/tovuutil/tovuutilConfigVersion.cmake"
 test "$(PKG_CONFIG_PATH=$libdir/pkgconfig pkg-config --modversion tovuutil)" = "$version"
-test "$("$prefix/bin/tovu" --version 2>/dev/null || LD_LIBRARY_PATH=$libdir "$prefix/bin/tovu" --version)" = "tovu $version"
+# The installed tool finds the library beside it in the moved tree, with its
+# man page next to it.
+test "$(env -u LD_LIBRARY_PATH "$prefix/bin/tovu" --version)" = "tovu $version"
+man -l "$prefix/share/man/man1/tovu.1" 2>/dev/null | grep -q 'tovu - command-line host' ||
+    test -s "$prefix/share/man/man1/tovu.1"
 
 cmake -S "$source" -B "$scratch/cmake-build" -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
 cmake --build "$scratch/cmake-build" >/dev/null

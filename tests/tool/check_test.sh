@@ -52,4 +52,8 @@ expect 2 "" "tovu: check: unknown format code 'X'$hint" check X 1
 expect 2 "" "tovu: check: --year applies to the codes T and B only$hint" check D --year 2020 01.01.2020
 expect 2 "" "tovu: check: '20' is not a year of four digits$hint" check T --year 20 01.01.
 expect 2 "" "tovu: check: --year needs a year$hint" check T 01.01. --year
+expect 2 "" "tovu: check: unknown option '-x'$hint" check N -x
+# After "--" everything is a value; "-" and negative numbers are values anyway.
+expect 1 $'-x: invalid\n--year: invalid\n' "" check N -- -x --year
+expect 1 $'-1: invalid\n  1: wrong length\n' "" check D -- -1
 finish

@@ -39,6 +39,26 @@ expect_status() {
     fi
 }
 
+# as_user COMMAND...: runs COMMAND as an unprivileged user, where root would
+# hide a failure (unwritable directories). Returns 77 when that is not
+# possible here; callers then skip with a message.
+as_user() {
+    if [ "$(id -u)" != 0 ]; then
+        "$@"
+    elif command -v setpriv >/dev/null && setpriv --reuid=65534 --regid=65534 --clear-groups test -x "$TOVU"; then
+        setpriv --reuid=65534 --regid=65534 --clear-groups "$@"
+    else
+        return 77
+    fi
+}
+
+# check NAME CONDITION...: counts a failure when the condition is false.
+check() {
+    local name=$1
+    shift
+    "$@" || { echo "FAILED: $name"; failures=$((failures + 1)); }
+}
+
 # Ends the script: non-zero when any expectation failed.
 finish() {
     [ "$failures" -eq 0 ] && echo "all passed" || echo "$failures failed"

@@ -11,6 +11,18 @@ expect 0 $'Zm9vYmFy\n' "" encode base64 -
 unset STDIN
 expect 0 $'Zm9vYmFy\n' "" encode base64 "$scratch/foobar"
 expect 0 "" "" encode base64 # empty input, empty output
+# --wrap N: lines of N characters, each ended; 0 keeps one line.
+printf 'foobarbaz1234567' >"$scratch/wrap"
+expect 0 $'Zm9vYmFy\nYmF6MTIz\nNDU2Nw==\n' "" encode --wrap 8 base64 "$scratch/wrap"
+expect 0 $'Zm9v\nYmFy\n' "" encode base64 "$scratch/foobar" --wrap 4
+expect 0 $'Zm9vYmFy\n' "" encode --wrap 0 base64 "$scratch/foobar"
+expect 0 $'Zm9vY\nmFy\n' "" encode --wrap 5 base64 "$scratch/foobar"
+expect 2 "" $'tovu: encode: \'x\' is not a line width\nTry \'tovu encode --help\'.\n' encode --wrap x base64
+expect 2 "" $'tovu: decode: unknown option \'--ignore-garbage\'\nTry \'tovu decode --help\'.\n' decode base64 --ignore-garbage
+expect 2 "" $'tovu: decode: unknown option \'--wrap\'\nTry \'tovu decode --help\'.\n' decode --wrap 4 base64
+# "--" ends the options: a file named like one.
+cp "$scratch/foobar" "$scratch/-x"
+cd "$scratch" && expect 0 $'Zm9vYmFy\n' "" encode base64 -- -x && cd - >/dev/null
 
 printf 'Zm9v\r\nYmFy\n' >"$scratch/lines"
 expect 0 "foobar" "" decode base64 "$scratch/lines"
@@ -29,6 +41,8 @@ for value in $(seq 0 255); do printf "\\x$(printf %02x "$value")"; done >"$scrat
 for codec in base16 base32 base64; do
     "$TOVU" encode $codec <"$scratch/bytes" | "$TOVU" decode $codec | cmp -s - "$scratch/bytes" ||
         { echo "FAILED: all bytes through $codec"; failures=$((failures + 1)); }
+    "$TOVU" encode --wrap 7 $codec <"$scratch/bytes" | "$TOVU" decode $codec | cmp -s - "$scratch/bytes" ||
+        { echo "FAILED: all bytes wrapped through $codec"; failures=$((failures + 1)); }
 done
 
 # A full device is reported; a reader that goes away is not.

@@ -3,11 +3,13 @@
 . "$TOVU_TEST_SOURCE/cli.sh"
 
 # add goes on past midnight; sub gives the distance instead of going back.
-expect 0 $'00:00:30\n' "" time add 23:59:30 00:01:00
+expect 0 $'00:00:30 (+1 day)\n' "" time add 23:59:30 00:01:00
+expect 0 $'00:00:00 (+1 day)\n' "" time add 23:59:30 00:00:30
+expect 0 $'23:59:59\n' "" time add 23:59:30 00:00:29
 expect 0 $'10:45:00\n' "" time add 9:30 1:15
 expect 0 $'12:00:01\n' "" time add 12:00:00.999 0:00:00.001
-expect 0 $'00:00:00.250\n' "" time add 23:59:59.750 0:00:00.500 --format %T.%X
-expect 0 $'00:30:00\n' "" time sub 00:30 01:00
+expect 0 $'00:00:00.250 (+1 day)\n' "" time add 23:59:59.750 0:00:00.500 --format %T.%X
+expect 0 $'00:30:00 (distance, past midnight)\n' "" time sub 00:30 01:00
 expect 0 $'09:29:44.750\n' "" time sub 10:00 0:30:15.250
 expect 0 $'00:00:00\n' "" time sub 7:00 7:00
 expect 0 $'12.00 Uhr\n' "" time sub 13:00 1:00 --format "%H.%M Uhr"
@@ -35,4 +37,5 @@ expect 2 "" "tovu: time: TIME expected$hint" time format
 expect 2 "" "tovu: time: unexpected argument '3:00'$hint" time add 1:00 2:00 3:00
 expect 2 "" "tovu: time: unexpected argument 'b'$hint" time format 1:00 a b
 expect 2 "" "tovu: time: --format needs a format$hint" time add 1:00 2:00 --format
+expect 2 "" "tovu: time: unknown option '--carry'$hint" time add 1:00 2:00 --carry
 finish

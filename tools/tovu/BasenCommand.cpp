@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "CommandLine.h"
 #include "Commands.h"
 
 namespace tovu::cli {
@@ -93,10 +94,12 @@ int fromBase(Base const& base, std::string const& typed)
 
 } // namespace
 
-int runBasen(Args const& args)
+int runBasen(Args const& arguments)
 {
-    if (helpRequested(args, kHelp))
-        return kOk;
+    CommandLine line;
+    if (auto const done = parseCommandLine("basen", kHelp, arguments, {}, line))
+        return *done;
+    Args const& args = line.operands;
     if (args.empty())
         return usageError("basen", "'to' or 'from' expected");
     if (args[0] != "to" && args[0] != "from")

@@ -4,6 +4,7 @@
 #include <cctype>
 #include <list>
 
+#include "CommandLine.h"
 #include "Commands.h"
 
 namespace tovu::cli {
@@ -28,7 +29,8 @@ constexpr char kHelp[] =
     "Numbers are written the German way: a comma separates the decimals, a point\n"
     "is never accepted. For an invalid date every error is listed with its code;\n"
     "the codes of a range's first date are 10 higher, of its second date 20\n"
-    "higher. --year checks T and B within that year (February by the leap rule).\n\n"
+    "higher. --year checks T and B within that year (February by the leap rule).\n"
+    "Values that start with \"-\" and a letter follow \"--\".\n\n"
     "examples: tovu check P 12,50 12,5\n"
     "          tovu check D 29.02.2024 31.04.2023\n";
 
@@ -117,12 +119,11 @@ std::string upper(std::string text)
 
 int runCheck(Args const& args)
 {
-    if (helpRequested(args, kHelp))
-        return kOk;
-    Args positional;
-    std::optional<std::string> year;
-    if (!splitOption("check", args, "--year", "year", positional, year))
-        return kUsage;
+    CommandLine line;
+    if (auto const done = parseCommandLine("check", kHelp, args, {{"--year", "year"}}, line))
+        return *done;
+    Args const& positional = line.operands;
+    std::optional<std::string> const year = line.value("--year");
     if (year && !isYear(*year))
         return usageError("check", "'" + *year + "' is not a year of four digits");
     if (positional.empty())

@@ -1,5 +1,6 @@
 #include <tovuutil/tovuutil.h>
 
+#include "CommandLine.h"
 #include "Commands.h"
 
 namespace tovu::cli {
@@ -14,10 +15,12 @@ constexpr char kHelp[] =
 
 } // namespace
 
-int runChecksum(Args const& args)
+int runChecksum(Args const& arguments)
 {
-    if (helpRequested(args, kHelp))
-        return kOk;
+    CommandLine line;
+    if (auto const done = parseCommandLine("checksum", kHelp, arguments, {}, line))
+        return *done;
+    Args const& args = line.operands;
     if (args.empty())
         return usageError("checksum", "no text given");
     if (args.size() > 1)

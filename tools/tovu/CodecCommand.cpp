@@ -12,16 +12,19 @@
 #include <io.h>
 #endif
 
+#include "CommandLine.h"
 #include "Commands.h"
+#include "WrapLines.h"
 
 namespace tovu::cli {
 
 namespace {
 
 constexpr char kEncodeHelp[] =
-    "usage: tovu encode base16|base32|base64 [FILE|-]\n\n"
+    "usage: tovu encode [--wrap N] base16|base32|base64 [FILE|-]\n\n"
     "Encodes FILE (or standard input) to standard output, padded with '=', on one\n"
-    "line. Any size streams through in bounded memory.\n\n"
+    "line, or with --wrap in lines of N characters (0: one line). Any size streams\n"
+    "through in bounded memory.\n\n"
     "example: printf foo | tovu encode base64      prints Zm9v\n";
 
 constexpr char kDecodeHelp[] =
@@ -79,9 +82,13 @@ public:
 
     void write(char const* data, std::size_t size)
     {
-        if (ok() && size > 0 && std::fwrite(data, 1, size, stdout) != size)
-            fail("write error", errno);
+        if (wrap_ == 0)
+            writeAsIs(data, size);
+        else
+            wrapLines(data, size, wrap_, column_, [this](char const* part, std::size_t length) { writeAsIs(part, length); });
     }
+
+    void setWrap(std::size_t width) { wrap_ = width; }
 
     int close()
     {
@@ -98,6 +105,12 @@ public:
     }
 
 private:
+    void writeAsIs(char const* data, std::size_t size)
+    {
+        if (ok() && size > 0 && std::fwrite(data, 1, size, stdout) != size)
+            fail("write error", errno);
+    }
+
     void fail(char const* what, int error)
     {
         // A reader that went away (`| head -c1`) is no failure worth a word.
@@ -110,6 +123,8 @@ private:
     char const* command_;
     std::FILE* in_;
     int status_ = kOk;
+    std::size_t wrap_ = 0; // line width of the output; 0: no line ends added
+    std::size_t column_ = 0;
 };
 
 int encode(Codec const& codec, Stream& stream)
@@ -183,10 +198,29 @@ int decode(Codec const& codec, Stream& stream)
     return stream.close();
 }
 
-int run(char const* command, char const* help, Args const& args, bool encoding)
+// "--wrap N": a line width of up to six digits.
+bool readWidth(std::optional<std::string> const& text, std::size_t& width)
 {
-    if (helpRequested(args, help))
-        return kOk;
+    width = 0;
+    if (!text)
+        return true;
+    if (text->empty() || text->size() > 6 || text->find_first_not_of("0123456789") != std::string::npos)
+        return false;
+    width = std::stoul(*text);
+    return true;
+}
+
+int run(char const* command, char const* help, Args const& arguments, bool encoding)
+{
+    CommandLine line;
+    auto const done = encoding ? parseCommandLine(command, help, arguments, {{"--wrap", "line width"}}, line)
+                               : parseCommandLine(command, help, arguments, {}, line);
+    if (done)
+        return *done;
+    Args const& args = line.operands;
+    std::size_t width = 0;
+    if (!readWidth(line.value("--wrap"), width))
+        return usageError(command, "'" + *line.value("--wrap") + "' is not a line width");
     if (args.empty())
         return usageError(command, "which codec: base16, base32 or base64?");
     if (args.size() > 2)
@@ -210,6 +244,7 @@ int run(char const* command, char const* help, Args const& args, bool encoding)
 #endif
     out().flush();
     Stream stream(command, in);
+    stream.setWrap(width);
     int status = kOk;
     try {
         status = encoding ? encode(*codec, stream) : decode(*codec, stream);

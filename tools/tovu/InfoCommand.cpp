@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <utility>
 
+#include "CommandLine.h"
 #include "Commands.h"
 
 namespace tovu::cli {
@@ -127,11 +128,12 @@ void printJson(std::vector<Section> const& sections)
 
 int runInfo(Args const& args)
 {
-    if (helpRequested(args, kHelp))
-        return kOk;
-    bool const json = args.size() == 1 && args[0] == "--json";
-    if (!args.empty() && !json)
-        return usageError("info", "unexpected argument '" + args[0] + "'");
+    CommandLine line;
+    if (auto const done = parseCommandLine("info", kHelp, args, {{"--json"}}, line))
+        return *done;
+    bool const json = line.has("--json");
+    if (!line.operands.empty())
+        return usageError("info", "unexpected argument '" + line.operands[0] + "'");
     std::vector<Section> const sections = {library(), services(), systemProperties(), machine()};
     if (json)
         printJson(sections);

@@ -1,10 +1,36 @@
 #include "KeyValueCommand.h"
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <random>
+
+#include "CommandLine.h"
 
 namespace tovu::cli {
 
 namespace {
+
+// The longest "KEY=VALUE" the INI writer keeps; longer lines it leaves out.
+constexpr std::size_t kLongestLine = 4998;
+
+struct Action {
+    char const* name;
+    std::size_t operands; // FILE included
+    bool optionalLast;    // the last operand may be left out
+    bool changes;
+    char const* usage;
+};
+
+constexpr Action kActions[] = {
+    {"get", 2, false, false, "get FILE SECTION.KEY"},
+    {"set", 3, false, true, "set FILE SECTION.KEY VALUE"},
+    {"remove", 2, false, true, "remove FILE SECTION.KEY"},
+    {"remove-section", 2, false, true, "remove-section FILE SECTION"},
+    {"list", 2, true, false, "list FILE [SECTION]"},
+    {"sections", 1, false, false, "sections FILE"},
+};
 
 // A name needs a section and a key: "SECTION.KEY".
 bool isQualified(std::string const& name)
@@ -21,54 +47,229 @@ void printEntries(KeyValueFile& file, std::string const& section)
     }
 }
 
-} // namespace
-
-int runKeyValueCommand(char const* command, char const* help, KeyValueFile& file, Args const& args)
+// Reads the whole file; false with errno's text when it cannot.
+bool readWhole(std::string const& path, std::string& content, std::string& reason, int& error)
 {
-    if (helpRequested(args, help))
-        return kOk;
-    if (args.size() < 2)
-        return usageError(command, "which action on which file: get, set, list or sections FILE?");
-    std::string const& action = args[0];
-    std::string const& path = args[1];
-    std::size_t const wanted = action == "get" ? 3 : action == "set" ? 4 : action == "list" ? 3 : 2;
-    if (action != "get" && action != "set" && action != "list" && action != "sections")
-        return usageError(command, "unknown action '" + action + "'");
-    if (args.size() > wanted || ((action == "get" || action == "set") && args.size() < wanted))
-        return usageError(command, action == "get" ? "usage: get FILE SECTION.KEY"
-                                   : action == "set" ? "usage: set FILE SECTION.KEY VALUE"
-                                                     : "too many arguments");
-    std::string const name = args.size() > 2 ? fromTerminal(args[2]) : std::string();
-    if ((action == "get" || action == "set") && !isQualified(name))
-        return usageError(command, "'" + args[2] + "' is not of the form SECTION.KEY");
-
-    if (action == "set") {
-        // Setting a key in a file that is not there yet creates it.
-        if (std::FILE* created = std::fopen(path.c_str(), "ab"))
-            std::fclose(created);
+    std::FILE* file = std::fopen(path.c_str(), "rb");
+    if (file != nullptr) {
+        char buffer[65536];
+        std::size_t got;
+        while ((got = std::fread(buffer, 1, sizeof buffer, file)) > 0)
+            content.append(buffer, got);
+        error = std::ferror(file) ? errno : 0;
+        std::fclose(file);
+    } else {
+        error = errno;
     }
+    if (error != 0)
+        reason = std::strerror(error);
+    return error == 0;
+}
+
+bool hasBareLineFeed(std::string const& content)
+{
+    for (std::size_t at = content.find('\n'); at != std::string::npos; at = content.find('\n', at + 1))
+        if (at == 0 || content[at - 1] != '\r')
+            return true;
+    return false;
+}
+
+// Why the INI writer and reader would not give name and value back, or "".
+std::string whyNotStorable(std::string const& name, std::string const& value)
+{
+    std::string const key = name.substr(name.find('.') + 1);
+    if ((name + value).find_first_of("#;") != std::string::npos)
+        return "'#' and ';' start a comment in an INI file";
+    if ((name + value).find_first_of("\r\n") != std::string::npos)
+        return "line ends cannot be stored in an INI file";
+    if (key.find('=') != std::string::npos)
+        return "a key cannot hold '='";
+    auto const edgeBlank = [](std::string const& text) {
+        return !text.empty() && (std::strchr(" \t", text.front()) || std::strchr(" \t", text.back()));
+    };
+    if (edgeBlank(key) || edgeBlank(value))
+        return "blanks at the start or end of a key or value are cut when the file is read";
+    std::size_t const length = key.size() + 1 + value.size();
+    if (length > kLongestLine)
+        return "the line KEY=VALUE would be " + std::to_string(length) + " characters long; an INI line holds at most " +
+               std::to_string(kLongestLine);
+    return std::string();
+}
+
+// Standard input copied to a temporary file, for the library's file reader.
+class InputCopy {
+public:
+    ~InputCopy()
+    {
+        if (!path_.empty())
+            std::remove(path_.c_str());
+    }
+
+    bool make(std::string& path, std::string& reason)
+    {
+        std::error_code error;
+        auto const directory = std::filesystem::temp_directory_path(error);
+        if (error) {
+            reason = error.message();
+            return false;
+        }
+        std::random_device random;
+        path_ = (directory / ("tovu-input-" + std::to_string(random()) + std::to_string(random()) + ".ini")).string();
+        std::FILE* file = std::fopen(path_.c_str(), "wbx"); // never an existing file or link
+        if (file == nullptr) {
+            reason = std::strerror(errno);
+            path_.clear();
+            return false;
+        }
+        char buffer[65536];
+        std::size_t got;
+        bool ok = true;
+        while ((got = std::fread(buffer, 1, sizeof buffer, stdin)) > 0)
+            ok = std::fwrite(buffer, 1, got, file) == got && ok;
+        ok = !std::ferror(stdin) && ok;
+        ok = std::fclose(file) == 0 && ok;
+        if (!ok)
+            reason = "standard input cannot be copied";
+        path = path_;
+        return ok;
+    }
+
+private:
+    std::string path_;
+};
+
+// Whether the file now holds what the action was to leave in it.
+bool holdsChange(KeyValueFile& file, std::string const& path, Action const& action, std::string const& name,
+                 std::string const& value)
+{
     std::string reason;
     if (!file.load(path, reason))
-        return failure(command, path + ": " + reason);
+        return false;
+    if (action.name == std::string("set"))
+        return file.has(name) && file.get(name) == value;
+    if (action.name == std::string("remove"))
+        return !file.has(name);
+    for (auto const& section : file.sections())
+        if (section == name)
+            return false;
+    return true;
+}
 
-    if (action == "get") {
+int change(char const* command, KeyValueFile& file, std::string const& path, Action const& action,
+           std::string const& name, Args const& args)
+{
+    std::string const value = args.size() > 3 ? fromTerminal(args[3]) : std::string();
+    if (action.name == std::string("set")) {
+        if (file.isIni()) {
+            std::string const why = whyNotStorable(name, value);
+            if (!why.empty())
+                return failure(command, path + ": not changed: " + why);
+        }
+        file.set(name, value);
+    } else if (action.name == std::string("remove")) {
         if (!file.has(name))
             return failure(command, path + ": no value for '" + args[2] + "'");
-        out() << toTerminal(file.get(name)) << '\n';
-    } else if (action == "set") {
-        file.set(name, fromTerminal(args[3]));
-        if (!file.save(reason))
-            return failure(command, path + ": " + reason);
-    } else if (action == "sections") {
+        file.remove(name);
+    } else {
+        bool found = false;
+        for (auto const& section : file.sections())
+            found = found || section == name;
+        if (!found)
+            return failure(command, path + ": no section '" + args[2] + "'");
+        file.removeSection(name);
+    }
+    std::string reason;
+    if (!file.save(reason))
+        return failure(command, path + ": " + reason);
+    if (!holdsChange(file, path, action, name, value))
+        return failure(command, path + ": not saved: the file does not hold the change (full disk, file size "
+                                       "limit or no permission?)");
+    return kOk;
+}
+
+} // namespace
+
+int runKeyValueCommand(char const* command, char const* help, KeyValueFile& file, Args const& arguments,
+                       bool sectionsRemovable)
+{
+    CommandLine line;
+    if (auto const done = parseCommandLine(command, help, arguments, {}, line))
+        return *done;
+    Args const& args = line.operands;
+    if (args.empty())
+        return usageError(command, sectionsRemovable
+                                       ? "which action: get, set, remove, remove-section, list or sections?"
+                                       : "which action: get, set, remove, list or sections?");
+    Action const* action = nullptr;
+    for (auto const& candidate : kActions)
+        if (args[0] == candidate.name && (sectionsRemovable || args[0] != "remove-section"))
+            action = &candidate;
+    if (action == nullptr)
+        return usageError(command, "unknown action '" + args[0] + "'");
+    std::size_t const given = args.size() - 1;
+    if (given > action->operands || given + (action->optionalLast ? 1 : 0) < action->operands)
+        return usageError(command, std::string("usage: ") + action->usage);
+    std::string const name = given > 1 ? fromTerminal(args[2]) : std::string();
+    bool const qualified = action->name == std::string("get") || action->name == std::string("set") ||
+                           action->name == std::string("remove");
+    if (qualified && !isQualified(name))
+        return usageError(command, "'" + args[2] + "' is not of the form SECTION.KEY");
+
+    std::string path = args[1];
+    InputCopy input;
+    std::string reason;
+    if (path == "-") {
+        if (action->changes)
+            return usageError(command, "standard input cannot be changed; name a FILE");
+        if (!input.make(path, reason))
+            return failure(command, "-: " + reason);
+    }
+    std::string content;
+    int error = 0;
+    bool created = false;
+    if (!readWhole(path, content, reason, error)) {
+        // Setting a key in a file that is not there yet creates it.
+        if (error != ENOENT || action->name != std::string("set"))
+            return failure(command, args[1] + ": " + reason);
+        std::FILE* made = std::fopen(path.c_str(), "wbx");
+        if (made == nullptr)
+            return failure(command, args[1] + ": " + std::strerror(errno));
+        std::fclose(made);
+        created = true;
+    }
+    int status = kOk;
+    if (!file.load(path, reason)) {
+        status = failure(command, args[1] + ": " + reason);
+    } else if (file.isIni() && hasBareLineFeed(content)) {
+        // The reader takes every line end for CR LF: after a bare line feed
+        // the next line loses its first character.
+        std::string const why = args[1] + ": lines end in a bare line feed, but the INI reader expects CR LF and "
+                                          "drops the first character of each following line";
+        if (action->changes)
+            status = failure(command, why + "; not changed. Convert it first: sed -i 's/$/\\r/' FILE (or unix2dos)");
+        else
+            err() << "tovu: " << command << ": warning: " << toTerminal(why) << '\n';
+    }
+    if (status != kOk) {
+    } else if (action->changes) {
+        status = change(command, file, args[1] == "-" ? path : args[1], *action, name, args);
+    } else if (action->name == std::string("get")) {
+        if (!file.has(name))
+            status = failure(command, args[1] + ": no value for '" + args[2] + "'");
+        else
+            out() << toTerminal(file.get(name)) << '\n';
+    } else if (action->name == std::string("sections")) {
         for (auto const& section : file.sections())
             out() << toTerminal(section) << '\n';
-    } else if (args.size() == 3) {
+    } else if (given == 2) {
         printEntries(file, name);
     } else {
         for (auto const& section : file.sections())
             printEntries(file, section);
     }
-    return kOk;
+    if (status != kOk && created)
+        std::remove(path.c_str());
+    return status;
 }
 
 } // namespace tovu::cli

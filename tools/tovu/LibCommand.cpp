@@ -1,5 +1,6 @@
 #include <tovuutil/tovuutil.h>
 
+#include "CommandLine.h"
 #include "Commands.h"
 
 namespace tovu::cli {
@@ -12,9 +13,9 @@ constexpr char kHelp[] =
     "       tovu lib version FILE\n\n"
     "symbol loads LIBRARY through the library's shared-library service and looks\n"
     "SYMBOL up: status 0 when both succeed, 1 otherwise. name prints the file name\n"
-    "a library name is loaded as (x, x.so and x.dll all load libx.so; versioned\n"
-    "names such as libm.so.6 stay as they are). version prints a file's product\n"
-    "and file versions.\n\n"
+    "a library name is loaded as (x and x.dll load libx.so; x.so, a path and\n"
+    "versioned names such as libm.so.6 stay as they are). version prints a file's\n"
+    "product and file versions; status 1 when the file has none.\n\n"
     "example: tovu lib symbol libm.so.6 cos\n";
 
 int symbol(std::string const& library, std::string const& name)
@@ -33,10 +34,12 @@ int symbol(std::string const& library, std::string const& name)
 
 } // namespace
 
-int runLib(Args const& args)
+int runLib(Args const& arguments)
 {
-    if (helpRequested(args, kHelp))
-        return kOk;
+    CommandLine line;
+    if (auto const done = parseCommandLine("lib", kHelp, arguments, {}, line))
+        return *done;
+    Args const& args = line.operands;
     std::string const action = args.empty() ? "" : args[0];
     std::size_t const wanted = action == "symbol" ? 3 : action == "name" || action == "version" ? 2 : 0;
     if (wanted == 0)
@@ -54,6 +57,9 @@ int runLib(Args const& args)
     std::string product;
     std::string file;
     getSharedLibVersionInfo(args[1], product, file);
+    // Without a version block both texts are the name and this remark.
+    if (product == args[1] + " nicht gefunden oder kein Versionsinfoblock")
+        return failure("lib", args[1] + ": no version information (missing, or a file without a version)");
     out() << "product version: " << toTerminal(product) << "\nfile version: " << toTerminal(file) << '\n';
     return kOk;
 }

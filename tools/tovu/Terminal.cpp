@@ -149,37 +149,13 @@ int failure(std::string const& command, std::string const& message)
     return kInvalid;
 }
 
-bool helpRequested(Args const& args, char const* help)
-{
-    for (auto const& arg : args)
-        if (arg == "--help" || arg == "-h") {
-            out() << help;
-            return true;
-        }
-    return false;
-}
-
-bool splitOption(std::string const& command, Args const& args, std::string const& option, char const* what,
-                 Args& rest, std::optional<std::string>& value)
-{
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        if (args[i] != option) {
-            rest.push_back(args[i]);
-        } else if (i + 1 == args.size()) {
-            usageError(command, option + " needs a " + what);
-            return false;
-        } else {
-            value = args[++i];
-        }
-    }
-    return true;
-}
-
 int finish(int status)
 {
     if (out().flush() && std::fflush(stdout) == 0)
         return status;
     int const error = errno;
+    if (error == EPIPE)
+        return kInvalid;
     err() << "tovu: write error: " << std::strerror(error) << '\n';
     return kInvalid;
 }

@@ -1,7 +1,6 @@
 #ifndef TOVU_TOOL_TERMINAL_H
 #define TOVU_TOOL_TERMINAL_H
 
-#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -35,18 +34,9 @@ int usageError(std::string const& command, std::string const& message);
 // Prints "tovu: <command>: <message>" on standard error; returns kInvalid.
 int failure(std::string const& command, std::string const& message);
 
-// True when args holds "--help" or "-h"; then the text is printed on standard
-// output. Commands call it first and return kOk when it answers true.
-bool helpRequested(Args const& args, char const* help);
-
-// Takes "OPTION VALUE" out of args: rest gets the other arguments in order,
-// value the option's value (the last one given). An option without a value is
-// a usage error "OPTION needs a WHAT"; then it returns false.
-bool splitOption(std::string const& command, Args const& args, std::string const& option, char const* what,
-                 Args& rest, std::optional<std::string>& value);
-
 // Flushes standard output; reports a failed write (a full device) and returns
-// kInvalid, otherwise returns status unchanged.
+// kInvalid, otherwise returns status unchanged. A reader that went away
+// (EPIPE) gives kInvalid without a word.
 int finish(int status);
 
 } // namespace tovu::cli

@@ -1,5 +1,6 @@
 #include <tovuutil/tovuutil.h>
 
+#include "CommandLine.h"
 #include "Commands.h"
 
 namespace tovu::cli {
@@ -14,14 +15,16 @@ constexpr char kHelp[] =
     "0-23, minutes and seconds 0-59, one or two digits each, milliseconds three\n"
     "digits). The result is printed as HH:MM:SS, with .mmm when it has\n"
     "milliseconds, or in FORMAT.\n\n"
-    "  add     adds DURATION; past midnight it goes on from 00:00:00\n"
+    "  add     adds DURATION; past midnight it goes on from 00:00:00 and the\n"
+    "          result is followed by \" (+1 day)\"\n"
     "  sub     subtracts DURATION; it never goes back past midnight but gives the\n"
-    "          distance: 00:30 sub 01:00 is 00:30:00\n"
+    "          distance, followed by \" (distance, past midnight)\": 00:30 sub 01:00\n"
+    "          is 00:30:00 (distance, past midnight)\n"
     "  format  prints TIME (normalised to HH:MM:SS, or in FORMAT)\n\n"
     "FORMAT directives: %H hours, %I hours 01-12 (midnight 12), %M minutes,\n"
     "%S seconds, %X milliseconds, %p am for 1-12 o'clock else pm (noon is am,\n"
     "midnight pm), %R %H:%M, %T %H:%M:%S, %r %I:%M:%S %p. Other text stays.\n\n"
-    "examples: tovu time add 23:59:30 00:01:00      prints 00:00:30\n"
+    "examples: tovu time add 23:59:30 00:01:00      prints 00:00:30 (+1 day)\n"
     "          tovu time format 9:05 \"%H.%M Uhr\"    prints 09.05 Uhr\n";
 
 // Reads one or two digits (or exactly `width` when it is not 0) at `at`, up to
@@ -64,24 +67,24 @@ int notATime(std::string const& text)
     return failure("time", "'" + text + "' is not a time of day (H:MM, H:MM:SS or H:MM:SS.mmm)");
 }
 
-void print(SimpleTime const& time, std::string const* format)
+void print(SimpleTime const& time, std::string const* format, char const* carry)
 {
     if (format != nullptr)
-        out() << toTerminal(time.getFormatted(fromTerminal(*format))) << '\n';
+        out() << toTerminal(time.getFormatted(fromTerminal(*format)));
     else
-        out() << time.getFormatted(time.getMilliSeconds() != 0 ? "%T.%X" : "%T") << '\n';
+        out() << time.getFormatted(time.getMilliSeconds() != 0 ? "%T.%X" : "%T");
+    out() << carry << '\n';
 }
 
 } // namespace
 
 int runTime(Args const& args)
 {
-    if (helpRequested(args, kHelp))
-        return kOk;
-    Args positional;
-    std::optional<std::string> format;
-    if (!splitOption("time", args, "--format", "format", positional, format))
-        return kUsage;
+    CommandLine line;
+    if (auto const done = parseCommandLine("time", kHelp, args, {{"--format", "format"}}, line))
+        return *done;
+    Args& positional = line.operands;
+    std::optional<std::string> format = line.value("--format");
     if (positional.empty())
         return usageError("time", "'add', 'sub' or 'format' expected");
     std::string const& command = positional[0];
@@ -101,16 +104,22 @@ int runTime(Args const& args)
     SimpleTime time(0, 0, 0, 0);
     if (!parseTime(positional[1], time))
         return notATime(positional[1]);
+    char const* carry = "";
     if (!formatCommand) {
         SimpleTime duration(0, 0, 0, 0);
         if (!parseTime(positional[2], duration))
             return notATime(positional[2]);
-        if (command == "add")
+        // Both are below a day, so a sum passes midnight at most once.
+        SimpleTime const start = time;
+        if (command == "add") {
             time += duration;
-        else
+            carry = time < start ? " (+1 day)" : "";
+        } else {
+            carry = duration > start ? " (distance, past midnight)" : "";
             time -= duration;
+        }
     }
-    print(time, format ? &*format : nullptr);
+    print(time, format ? &*format : nullptr, carry);
     return kOk;
 }
 

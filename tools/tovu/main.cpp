@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "Commands.h"
+#include "StandardStreams.h"
 
 namespace {
 
@@ -30,8 +31,8 @@ constexpr Command kCommands[] = {
 
 int help(std::ostream& stream, int status)
 {
-    stream << "usage: tovu COMMAND [ARGUMENTS...]\n"
-              "       tovu COMMAND --help\n"
+    stream << "usage: tovu [--log-dir DIR] COMMAND [ARGUMENTS...]\n"
+              "       tovu help [COMMAND]\n"
               "       tovu --version\n\n"
               "commands:\n";
     for (auto const& command : kCommands) {
@@ -40,28 +41,68 @@ int help(std::ostream& stream, int status)
             stream << ' ';
         stream << command.summary << '\n';
     }
-    stream << "\nText arguments typed as UTF-8 reach the library as Windows-1252; its answers\n"
-              "are printed as UTF-8.\n";
+    stream << "\nOptions may stand anywhere after COMMAND; \"--\" ends them, \"-\" names standard\n"
+              "input. --log-dir DIR writes the library's tovu.log into DIR instead of the\n"
+              "working directory. Text arguments typed as UTF-8 reach the library as\n"
+              "Windows-1252; its answers are printed as UTF-8.\n";
     return status;
+}
+
+Command const* find(std::string const& name)
+{
+    for (auto const& command : kCommands)
+        if (name == command.name)
+            return &command;
+    return nullptr;
+}
+
+int unknownCommand(std::string const& name)
+{
+    err() << "tovu: unknown command '" << name << "'; try 'tovu --help'\n";
+    return kUsage;
+}
+
+int run(Args const& args)
+{
+    if (args.empty())
+        return help(err(), kUsage);
+    std::string const& name = args[0];
+    if (name == "--help" || name == "-h")
+        return help(out(), kOk);
+    if (name == "--version") {
+        out() << "tovu " << TOVUUTIL_VERSION << '\n';
+        return kOk;
+    }
+    if (name == "help") {
+        if (args.size() == 1)
+            return help(out(), kOk);
+        Command const* command = find(args[1]);
+        return command == nullptr ? unknownCommand(args[1]) : command->run({"--help"});
+    }
+    if (Command const* command = find(name))
+        return command->run(Args(args.begin() + 1, args.end()));
+    if (name.size() > 1 && name[0] == '-') {
+        err() << "tovu: unknown option '" << name << "'; try 'tovu --help'\n";
+        return kUsage;
+    }
+    return unknownCommand(name);
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    std::ostream& stdout_ = out(); // from here on the library logs to standard error
-    if (argc < 2)
-        return finish(help(err(), kUsage));
-    std::string const name = argv[1];
-    if (name == "--help" || name == "-h")
-        return finish(help(stdout_, kOk));
-    if (name == "--version") {
-        stdout_ << "tovu " << TOVUUTIL_VERSION << '\n';
-        return finish(kOk);
+    bool const logDirTaken = finishStartup();
+    out(); // from here on the library logs to standard error
+    Args args(argv + 1, argv + argc);
+    if (!args.empty() && args[0] == "--log-dir") {
+        if (args.size() < 2) {
+            err() << "tovu: --log-dir needs a directory; try 'tovu --help'\n";
+            return finish(kUsage);
+        }
+        if (!logDirTaken)
+            return finish(failure("--log-dir", "not available on this host"));
+        args.erase(args.begin(), args.begin() + 2);
     }
-    for (auto const& command : kCommands)
-        if (name == command.name)
-            return finish(command.run(Args(argv + 2, argv + argc)));
-    err() << "tovu: unknown command '" << name << "'\n";
-    return finish(help(err(), kUsage));
+    return finish(run(args));
 }
