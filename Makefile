@@ -7,11 +7,18 @@ BENCH_BUILD ?= build-bench
 DEPS        := liblog4cpp5-dev libboost-dev libgtest-dev libgmock-dev libbenchmark-dev cmake g++ pkg-config make
 BENCH_DEPS  := libmodpbase64-dev libssl-dev libinih-dev
 PACKAGE_DEPS := dpkg-dev file
+DOCS_DEPS   := doxygen
 
-.PHONY: run test bench package deps bench-deps package-deps build build-asan clean
+.PHONY: run test docs bench package deps bench-deps package-deps docs-deps configure build build-asan clean
 
-run: build
+# Only the library and the tool: the tests are built by `make test`.
+run: configure
+	cmake --build $(BUILD) -j$(JOBS) --target tovu
 	./$(BUILD)/tools/tovu/tovu info
+
+# The API reference (build/docs/html); fails on undocumented public declarations.
+docs: docs-deps configure
+	cmake --build $(BUILD) --target docs
 
 test: build build-asan
 	cd $(BUILD) && ctest --output-on-failure -j$(JOBS)
@@ -23,11 +30,13 @@ bench: bench-deps
 	cmake --build $(BENCH_BUILD) --target run-benchmarks
 
 # A Debian package of the library, headers, CMake and pkg-config files and tovu.
-package: package-deps build
+package: package-deps build docs
 	cd $(BUILD) && cpack -G DEB
 
-build: deps
+configure: deps
 	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo
+
+build: configure
 	cmake --build $(BUILD) -j$(JOBS)
 
 build-asan: deps
@@ -50,6 +59,13 @@ bench-deps: deps
 
 package-deps: deps
 	@missing=$$(for p in $(PACKAGE_DEPS); do dpkg -s $$p >/dev/null 2>&1 || echo $$p; done); \
+	if [ -n "$$missing" ]; then \
+	  echo "installing:$$missing"; \
+	  apt-get update -qq && DEBIAN_FRONTEND=noninteractive apt-get install -y -qq $$missing; \
+	fi
+
+docs-deps: deps
+	@missing=$$(for p in $(DOCS_DEPS); do dpkg -s $$p >/dev/null 2>&1 || echo $$p; done); \
 	if [ -n "$$missing" ]; then \
 	  echo "installing:$$missing"; \
 	  apt-get update -qq && DEBIAN_FRONTEND=noninteractive apt-get install -y -qq $$missing; \

@@ -19,7 +19,8 @@ for needed in liblog4cpp5v5 libstdc++6 liblog4cpp5-dev libboost-dev; do
 done
 contents=$(dpkg-deb -c "$deb")
 for file in usr/bin/tovu usr/lib/libtovuutil.so.1 usr/include/tovuutil/tovuutil.h \
-    usr/lib/pkgconfig/tovuutil.pc usr/lib/cmake/tovuutil/tovuutilConfig.cmake; do
+    usr/lib/pkgconfig/tovuutil.pc usr/lib/cmake/tovuutil/tovuutilConfig.cmake usr/share/man/man1/tovu.1 \
+    $(test -d "$build/docs/html" && echo usr/share/doc/tovuutil/html/index.html); do
     echo "$contents" | grep -q " ./$file" || { echo "package lacks $file" >&2; exit 1; }
 done
 
@@ -28,4 +29,4 @@ prefix=$scratch/root/usr
 cmake -S "$source" -B "$scratch/cmake-build" -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
 cmake --build "$scratch/cmake-build" >/dev/null
 (cd "$scratch" && LD_LIBRARY_PATH=$prefix/lib "$scratch/cmake-build/consumer")
-test "$(LD_LIBRARY_PATH=$prefix/lib "$prefix/bin/tovu" --version)" = "tovu $(dpkg-deb -f "$deb" Version)"
+test "$(env -u LD_LIBRARY_PATH "$prefix/bin/tovu" --version)" = "tovu $(dpkg-deb -f "$deb" Version)"

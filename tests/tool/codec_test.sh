@@ -22,7 +22,9 @@ expect 2 "" $'tovu: decode: unknown option \'--ignore-garbage\'\nTry \'tovu deco
 expect 2 "" $'tovu: decode: unknown option \'--wrap\'\nTry \'tovu decode --help\'.\n' decode --wrap 4 base64
 # "--" ends the options: a file named like one.
 cp "$scratch/foobar" "$scratch/-x"
-cd "$scratch" && expect 0 $'Zm9vYmFy\n' "" encode base64 -- -x && cd - >/dev/null
+cd "$scratch"
+expect 0 $'Zm9vYmFy\n' "" encode base64 -- -x
+cd - >/dev/null
 
 printf 'Zm9v\r\nYmFy\n' >"$scratch/lines"
 expect 0 "foobar" "" decode base64 "$scratch/lines"

@@ -13,8 +13,9 @@ constexpr char kHelp[] =
     "       tovu lib version FILE\n\n"
     "symbol loads LIBRARY through the library's shared-library service and looks\n"
     "SYMBOL up: status 0 when both succeed, 1 otherwise. name prints the file name\n"
-    "a library name is loaded as (x and x.dll load libx.so; x.so, a path and\n"
-    "versioned names such as libm.so.6 stay as they are). version prints a file's\n"
+    "a library name is loaded as (x and x.dll load libx.so, /a/x loads\n"
+    "/a/libx.so; x.so and versioned names such as libm.so.6 stay as they are).\n"
+    "version prints a file's\n"
     "product and file versions; status 1 when the file has none.\n\n"
     "example: tovu lib symbol libm.so.6 cos\n";
 
