@@ -3,17 +3,14 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <filesystem>
-#include <random>
 
 #include "CommandLine.h"
+#include "InputCopy.h"
+#include "KeyValueChecks.h"
 
 namespace tovu::cli {
 
 namespace {
-
-// The longest "KEY=VALUE" the INI writer keeps; longer lines it leaves out.
-constexpr std::size_t kLongestLine = 4998;
 
 struct Action {
     char const* name;
@@ -46,97 +43,6 @@ void printEntries(KeyValueFile& file, std::string const& section)
         out() << toTerminal(name) << '=' << toTerminal(file.get(name)) << '\n';
     }
 }
-
-// Reads the whole file; false with errno's text when it cannot.
-bool readWhole(std::string const& path, std::string& content, std::string& reason, int& error)
-{
-    std::FILE* file = std::fopen(path.c_str(), "rb");
-    if (file != nullptr) {
-        char buffer[65536];
-        std::size_t got;
-        while ((got = std::fread(buffer, 1, sizeof buffer, file)) > 0)
-            content.append(buffer, got);
-        error = std::ferror(file) ? errno : 0;
-        std::fclose(file);
-    } else {
-        error = errno;
-    }
-    if (error != 0)
-        reason = std::strerror(error);
-    return error == 0;
-}
-
-bool hasBareLineFeed(std::string const& content)
-{
-    for (std::size_t at = content.find('\n'); at != std::string::npos; at = content.find('\n', at + 1))
-        if (at == 0 || content[at - 1] != '\r')
-            return true;
-    return false;
-}
-
-// Why the INI writer and reader would not give name and value back, or "".
-std::string whyNotStorable(std::string const& name, std::string const& value)
-{
-    std::string const key = name.substr(name.find('.') + 1);
-    if ((name + value).find_first_of("#;") != std::string::npos)
-        return "'#' and ';' start a comment in an INI file";
-    if ((name + value).find_first_of("\r\n") != std::string::npos)
-        return "line ends cannot be stored in an INI file";
-    if (key.find('=') != std::string::npos)
-        return "a key cannot hold '='";
-    auto const edgeBlank = [](std::string const& text) {
-        return !text.empty() && (std::strchr(" \t", text.front()) || std::strchr(" \t", text.back()));
-    };
-    if (edgeBlank(key) || edgeBlank(value))
-        return "blanks at the start or end of a key or value are cut when the file is read";
-    std::size_t const length = key.size() + 1 + value.size();
-    if (length > kLongestLine)
-        return "the line KEY=VALUE would be " + std::to_string(length) + " characters long; an INI line holds at most " +
-               std::to_string(kLongestLine);
-    return std::string();
-}
-
-// Standard input copied to a temporary file, for the library's file reader.
-class InputCopy {
-public:
-    ~InputCopy()
-    {
-        if (!path_.empty())
-            std::remove(path_.c_str());
-    }
-
-    bool make(std::string& path, std::string& reason)
-    {
-        std::error_code error;
-        auto const directory = std::filesystem::temp_directory_path(error);
-        if (error) {
-            reason = error.message();
-            return false;
-        }
-        std::random_device random;
-        path_ = (directory / ("tovu-input-" + std::to_string(random()) + std::to_string(random()) + ".ini")).string();
-        std::FILE* file = std::fopen(path_.c_str(), "wbx"); // never an existing file or link
-        if (file == nullptr) {
-            reason = std::strerror(errno);
-            path_.clear();
-            return false;
-        }
-        char buffer[65536];
-        std::size_t got;
-        bool ok = true;
-        while ((got = std::fread(buffer, 1, sizeof buffer, stdin)) > 0)
-            ok = std::fwrite(buffer, 1, got, file) == got && ok;
-        ok = !std::ferror(stdin) && ok;
-        ok = std::fclose(file) == 0 && ok;
-        if (!ok)
-            reason = "standard input cannot be copied";
-        path = path_;
-        return ok;
-    }
-
-private:
-    std::string path_;
-};
 
 // Whether the file now holds what the action was to leave in it.
 bool holdsChange(KeyValueFile& file, std::string const& path, Action const& action, std::string const& name,
@@ -184,6 +90,25 @@ int change(char const* command, KeyValueFile& file, std::string const& path, Act
     if (!holdsChange(file, path, action, name, value))
         return failure(command, path + ": not saved: the file does not hold the change (full disk, file size "
                                        "limit or no permission?)");
+    return kOk;
+}
+
+int read(char const* command, KeyValueFile& file, Action const& action, Args const& args)
+{
+    std::string const name = args.size() > 2 ? fromTerminal(args[2]) : std::string();
+    if (action.name == std::string("get")) {
+        if (!file.has(name))
+            return failure(command, args[1] + ": no value for '" + args[2] + "'");
+        out() << toTerminal(file.get(name)) << '\n';
+    } else if (action.name == std::string("sections")) {
+        for (auto const& section : file.sections())
+            out() << toTerminal(section) << '\n';
+    } else if (args.size() > 2) {
+        printEntries(file, name);
+    } else {
+        for (auto const& section : file.sections())
+            printEntries(file, section);
+    }
     return kOk;
 }
 
@@ -250,23 +175,8 @@ int runKeyValueCommand(char const* command, char const* help, KeyValueFile& file
         else
             err() << "tovu: " << command << ": warning: " << toTerminal(why) << '\n';
     }
-    if (status != kOk) {
-    } else if (action->changes) {
-        status = change(command, file, args[1] == "-" ? path : args[1], *action, name, args);
-    } else if (action->name == std::string("get")) {
-        if (!file.has(name))
-            status = failure(command, args[1] + ": no value for '" + args[2] + "'");
-        else
-            out() << toTerminal(file.get(name)) << '\n';
-    } else if (action->name == std::string("sections")) {
-        for (auto const& section : file.sections())
-            out() << toTerminal(section) << '\n';
-    } else if (given == 2) {
-        printEntries(file, name);
-    } else {
-        for (auto const& section : file.sections())
-            printEntries(file, section);
-    }
+    if (status == kOk)
+        status = action->changes ? change(command, file, path, *action, name, args) : read(command, file, *action, args);
     if (status != kOk && created)
         std::remove(path.c_str());
     return status;

@@ -2,6 +2,7 @@
 
 #include <tovuutil/tovuutil.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <iostream>

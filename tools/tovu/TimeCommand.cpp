@@ -109,11 +109,12 @@ int runTime(Args const& args)
         SimpleTime duration(0, 0, 0, 0);
         if (!parseTime(positional[2], duration))
             return notATime(positional[2]);
-        // Both are below a day, so a sum passes midnight at most once.
         SimpleTime const start = time;
         if (command == "add") {
-            time += duration;
-            carry = time < start ? " (+1 day)" : "";
+            // Both lie within a day: the library carries at most one.
+            int const days = time.add(duration.getHours(), duration.getMinutes(), duration.getSeconds(),
+                                      duration.getMilliSeconds());
+            carry = days > 0 ? " (+1 day)" : "";
         } else {
             carry = duration > start ? " (distance, past midnight)" : "";
             time -= duration;
