@@ -27,6 +27,17 @@ expect 2 "" $'tovu: ini: unknown action \'drop\'\nTry \'tovu ini --help\'.\n' in
 expect 0 "" "" ini set app.ini DB.NAME $'M\374nchen'
 expect 0 $'München\n' "" ini get app.ini DB.NAME
 
+# The system's reason, as a user whom the permissions apply to.
+chmod 711 "$scratch"
+printf '[A]\r\nB=c\r\n' >secret.ini && chmod 600 secret.ini
+if as_user true; then
+    as_user "$TOVU" ini get "$scratch/secret.ini" A.B >out 2>err
+    check "unreadable file: status" [ $? = 1 ]
+    check "unreadable file: reason" grep -qx "tovu: ini: $scratch/secret.ini: Permission denied" err
+else
+    echo "skipped: the permission test needs an unprivileged user (setpriv)"
+fi
+
 # Standard input for reading; never for changing.
 STDIN=app.ini expect 0 $'DB.USER=me\nDB.NAME=München\n' "" ini list - DB
 STDIN=app.ini expect 0 $'me\n' "" props get - DB.USER

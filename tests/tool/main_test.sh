@@ -19,6 +19,11 @@ for command in encode decode ini props lib; do
 done
 expect 2 "" $'tovu: info: unexpected argument \'x\'\nTry \'tovu info --help\'.\n' info x
 
+# The man page names every command of the help.
+for command in $("$TOVU" --help | sed -n 's/^  \([a-z]*\) .*/\1/p'); do
+    check "man page lacks $command" grep -q "^\.B $command\b" "$TOVU_TEST_SOURCE/../../tools/tovu/tovu.1"
+done
+
 # info prints every section, in table and JSON form, and the versions exactly.
 "$TOVU" info >"$scratch/info" 2>/dev/null || { echo "FAILED: info"; failures=$((failures + 1)); }
 [ "$(grep -c '^\[' "$scratch/info")" = 4 ] || { echo "FAILED: info sections"; failures=$((failures + 1)); }
