@@ -22,6 +22,7 @@ public:
 template <class T>
 class ManagedObject : public CleanupAdapter {
 public:
+    // Takes ownership of object (which may be null).
     explicit ManagedObject(T* object) : object_(object) {}
     ~ManagedObject() override { ManagedObject::cleanup(); }
 
@@ -32,6 +33,7 @@ public:
         delete object;
     }
 
+    // The owned object; null after cleanup().
     T* get() const { return object_; }
 
 private:
@@ -44,7 +46,9 @@ private:
 class TOVU_API ManagedTovuObject {
 public:
     ManagedTovuObject() = default;
+    // Copyable; the lifetime manager owns what it is handed, not copies.
     ManagedTovuObject(ManagedTovuObject const&) = default;
+    // Copyable, as above.
     ManagedTovuObject& operator=(ManagedTovuObject const&) = default;
     virtual ~ManagedTovuObject();
 };

@@ -16,6 +16,8 @@
 //   auto* sys = static_cast<SystemPropertiesService*>(UtilServiceFactory::getService(0));
 class TOVU_API UtilServiceFactory {
 public:
+    // The service of type 0 to 3 (see above); null for any other number, or
+    // when the lifetime manager holds no such object.
     static Service* getService(int type);
 };
 

@@ -49,27 +49,44 @@ public:
         OS_POSIX = 5
     };
 
+    // Gathers the facts at once.
     TovuSystemInformation();
+    // Copies the gathered facts; nothing is asked again.
     TovuSystemInformation(TovuSystemInformation const& other);
+    // Copies the gathered facts; nothing is asked again.
     TovuSystemInformation& operator=(TovuSystemInformation const& other);
     virtual ~TovuSystemInformation();
 
+    // Which gathering steps failed.
     State getState() const;
     // The host's error code (errno, or the Windows last-error value) of the
     // last failed step; 0 when none failed.
     int getLastError() const;
+    // Number of processors; 0 when unknown.
     unsigned short getNumProcessors() const;
+    // Processor architecture in capitals ("X86_64"); "UNBEKANNT" when unknown.
     std::string getArchitecture() const;
+    // Free physical memory in bytes.
     std::int64_t getFreeMemory() const;
+    // Total physical memory in bytes.
     std::int64_t getTotalMemory() const;
+    // Free swap space in bytes.
     std::int64_t getFreeSwap() const;
+    // Total swap space in bytes.
     std::int64_t getTotalSwap() const;
+    // Display name of the operating system; "Unbekannt" when unknown.
     std::string getOsName() const;
+    // Family of the operating system.
     OSType getOsType() const;
+    // Edition (POSIX: the distribution's version text).
     std::string getOsZusatz() const;
+    // Service-pack level (POSIX: the kernel release after its build number).
     std::string getPatchLevel() const;
+    // Version of the operating system ("6.1").
     std::string getOsVersion() const;
+    // Version of the kernel ("6.1").
     std::string getKernelVersion() const;
+    // Build number ("0").
     std::string getBuildNumber() const;
     // "Unbekannt", "Windows 3.1", "Win32s", "Windows 95/98/ME", "Windows NT",
     // "POSIX" for the values 0 to 5; "Unbekannt" for anything else.
@@ -78,6 +95,7 @@ public:
     // The two gathering steps, run by the constructor; false when the host
     // query failed (the fields then keep their fallback values).
     bool retrieveOsInfo();
+    // The second step: processors, architecture and memory; false as above.
     bool retrieveSystemInfo();
 
     // True when running under the Windows compatibility layer; always false on
