@@ -29,13 +29,21 @@ public:
     SimpleTime(int hours, int minutes, int seconds, int milliSeconds);
     ~SimpleTime() {}
 
+    // The hours field as stored.
     int getHours() const { return hours_; }
+    // The minutes field as stored.
     int getMinutes() const { return minutes_; }
+    // The seconds field as stored.
     int getSeconds() const { return seconds_; }
+    // The milliseconds field as stored.
     int getMilliSeconds() const { return milliSeconds_; }
+    // Stores the hours unchecked.
     void setHours(int hours) { hours_ = hours; }
+    // Stores the minutes unchecked.
     void setMinutes(int minutes) { minutes_ = minutes; }
+    // Stores the seconds unchecked.
     void setSeconds(int seconds) { seconds_ = seconds; }
+    // Stores the milliseconds unchecked.
     void setMilliSeconds(int milliSeconds) { milliSeconds_ = milliSeconds; }
 
     // initNow()
@@ -58,12 +66,14 @@ public:
     // Seconds since midnight of hours, minutes and seconds; each out of its
     // range counts as 0. Example: SimpleTime(10, 75, 0, 0) gives 36000.
     long calcSecondsOfTime() const;
+    // The same as calcSecondsOfTime().
     long getTimeValueSeconds() const;
     // getValue(), getTimeValueMilliSeconds()
     //
     // Milliseconds since midnight: the seconds above * 1000 plus the
     // milliseconds field as it is (1500 or -3 go in unchanged).
     long getValue() const;
+    // The same as getValue().
     long getTimeValueMilliSeconds() const;
     // setTimeValueBySeconds(), setTimeValueByMilliSeconds()
     //
@@ -72,6 +82,7 @@ public:
     // in 32 bits, as it always has, and the milliseconds become 0.
     // Example: setTimeValueByMilliSeconds(86399999) gives 23:59:59.999.
     void setTimeValueBySeconds(long seconds);
+    // All four fields from a count of milliseconds, as above.
     void setTimeValueByMilliSeconds(long ms);
 
     // add(), subtract()
@@ -84,20 +95,29 @@ public:
     // Example: SimpleTime(0, 30, 0, 0).subtract(1, 0, 0, 0) returns 0 and
     //          leaves 00:30:00.000.
     int add(int hours, int minutes, int seconds, int milliSeconds);
+    // Subtracts a duration, as described above; the signed carry.
     int subtract(int hours, int minutes, int seconds, int milliSeconds);
 
     // Comparisons of getValue() of both sides.
     bool operator>(SimpleTime const& other) const;
+    // getValue() >= other.getValue().
     bool operator>=(SimpleTime const& other) const;
+    // getValue() <= other.getValue().
     bool operator<=(SimpleTime const& other) const;
+    // getValue() < other.getValue().
     bool operator<(SimpleTime const& other) const;
+    // getValue() == other.getValue(): fields out of range may compare equal.
     bool operator==(SimpleTime const& other) const;
+    // getValue() != other.getValue().
     bool operator!=(SimpleTime const& other) const;
     // The other's four components through add() or subtract(); the carry is
     // dropped. + and - work on a copy.
     SimpleTime operator+(SimpleTime const& other) const;
+    // A copy, other subtracted through subtract().
     SimpleTime operator-(SimpleTime const& other) const;
+    // Adds other through add().
     SimpleTime& operator+=(SimpleTime const& other);
+    // Subtracts other through subtract().
     SimpleTime& operator-=(SimpleTime const& other);
 
     // getFormat_T().
@@ -111,6 +131,7 @@ public:
     std::string getFormat_H() const;
     // 12-hour clock: 0 gives 12, 13..23 give 1..11.
     std::string getFormat_I() const;
+    // Minutes, two digits.
     std::string getFormat_M() const;
     // "am" for 1..12 o'clock, else "pm": noon is "am" and midnight "pm", as
     // hosts have always shown it.
@@ -119,6 +140,7 @@ public:
     std::string getFormat_r() const;
     // %H:%M
     std::string getFormat_R() const;
+    // Seconds, two digits.
     std::string getFormat_S() const;
     // %H:%M:%S
     std::string getFormat_T() const;
