@@ -84,25 +84,32 @@ TEST(SimpleDate, AgreesWithTheDateFieldCheck)
 
 TEST(SimpleDate, ArithmeticClampsAndStaysInTheCalendar)
 {
-    SimpleDate d(31, 1, 2024);
-    EXPECT_TRUE(d.addMonths(1));
-    EXPECT_EQ(fields(d), "29.2.2024");
-    d = SimpleDate(31, 1, 2023);
-    EXPECT_TRUE(d.addMonths(1));
-    EXPECT_EQ(fields(d), "28.2.2023");
-    d = SimpleDate(29, 2, 2024);
-    EXPECT_TRUE(d.addYears(1));
-    EXPECT_EQ(fields(d), "28.2.2025");
-    d = SimpleDate(31, 3, 2024);
-    EXPECT_TRUE(d.addMonths(-13));
-    EXPECT_EQ(fields(d), "28.2.2023");
+    struct Case {
+        SimpleDate from;
+        bool (SimpleDate::*move)(long);
+        long by;
+        char const* to;
+    } const cases[] = {
+        {SimpleDate(31, 1, 2024), &SimpleDate::addMonths, 1, "29.2.2024"},
+        {SimpleDate(31, 1, 2023), &SimpleDate::addMonths, 1, "28.2.2023"},
+        {SimpleDate(29, 2, 2024), &SimpleDate::addYears, 1, "28.2.2025"},
+        {SimpleDate(31, 3, 2024), &SimpleDate::addMonths, -13, "28.2.2023"},
+        {SimpleDate(28, 2, 2024), &SimpleDate::addDays, 2, "1.3.2024"},
+    };
+    for (Case const& c : cases) {
+        SimpleDate d = c.from;
+        EXPECT_TRUE((d.*c.move)(c.by));
+        EXPECT_EQ(fields(d), c.to);
+    }
 
     // Leaving the years 1..9999, or starting from an invalid date, changes nothing.
-    d = SimpleDate(31, 12, 9999);
+    SimpleDate d(31, 12, 9999);
     EXPECT_FALSE(d.addDays(1));
     EXPECT_FALSE(d.addMonths(LONG_MAX));
     EXPECT_FALSE(d.addYears(LONG_MIN));
     EXPECT_FALSE(d.addDays(LONG_MIN));
+    EXPECT_FALSE(d.addDays(LONG_MAX));
+    EXPECT_FALSE(d.addYears(LONG_MAX));
     EXPECT_EQ(fields(d), "31.12.9999");
     d = SimpleDate(1, 1, 1);
     EXPECT_FALSE(d.addMonths(-1));

@@ -8,7 +8,10 @@
 
 namespace {
 
+// Counts beyond these leave the calendar from any date; refusing them first
+// keeps the sums small.
 constexpr long kLastDayNumber = 3652059; // 31.12.9999
+constexpr long kMonthsInCalendar = 10000 * 12;
 
 char const* const kWeekdays[7] = {"Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag", "Sonntag"};
 char const* const kMonths[12] = {"Januar", "Februar", "M\xE4rz",     "April",   "Mai",      "Juni",
@@ -147,21 +150,21 @@ SimpleDate SimpleDate::fromDayNumber(long dayNumber)
 
 bool SimpleDate::addDays(long days)
 {
-    if (!isValid())
+    if (!isValid() || days < -kLastDayNumber || days > kLastDayNumber)
         return false;
-    long long const target = static_cast<long long>(getDayNumber()) + days;
+    long const target = getDayNumber() + days;
     if (target < 1 || target > kLastDayNumber)
         return false;
-    setDayNumber(static_cast<long>(target));
+    setDayNumber(target);
     return true;
 }
 
 bool SimpleDate::addMonths(long months)
 {
-    if (!isValid())
+    if (!isValid() || months < -kMonthsInCalendar || months > kMonthsInCalendar)
         return false;
-    long long const target = year_ * 12LL + (month_ - 1) + months;
-    if (target < 12 || target >= 10000 * 12LL)
+    long const target = year_ * 12L + (month_ - 1) + months;
+    if (target < 12 || target >= kMonthsInCalendar)
         return false;
     int const year = static_cast<int>(target / 12);
     int const month = static_cast<int>(target % 12) + 1;
@@ -172,8 +175,8 @@ bool SimpleDate::addMonths(long months)
 
 bool SimpleDate::addYears(long years)
 {
-    if (years < -10000 || years > 10000)
-        return false; // beyond the calendar whatever the date; keeps years * 12 small
+    if (years < -kMonthsInCalendar / 12 || years > kMonthsInCalendar / 12)
+        return false;
     return addMonths(years * 12);
 }
 
