@@ -14,6 +14,7 @@ int runDecode(Args const& args);
 int runBasen(Args const& args);
 int runChecksum(Args const& args);
 int runTime(Args const& args);
+int runDate(Args const& args);
 int runIni(Args const& args);
 int runProps(Args const& args);
 int runLib(Args const& args);

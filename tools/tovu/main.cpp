@@ -24,6 +24,7 @@ constexpr Command kCommands[] = {
     {"basen", "convert numbers to and from base 10, 16, 34 or 36", runBasen},
     {"checksum", "the checksum of a text", runChecksum},
     {"time", "add, subtract and format times of day", runTime},
+    {"date", "calendar dates: today, add, differences, weekdays, ISO weeks", runDate},
     {"ini", "read and change INI files", runIni},
     {"props", "read and change properties files", runProps},
     {"lib", "load a shared library and look up a symbol", runLib},

@@ -1,5 +1,6 @@
 #include "tovuutil/datetime/DateField.h"
 
+#include "tovuutil/datetime/detail/Calendar.h"
 #include "tovuutil/text/StringUtil.h"
 
 namespace {
@@ -41,9 +42,8 @@ Codes lengthAndShape(std::string const& s, char const* shape)
 
 int number(std::string const& s, std::size_t from, std::size_t count) { return string2Int(s.substr(from, count)); }
 
-bool isLeapYear(int year) { return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0; }
-
-constexpr int kMonthLengths[12] = {31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+using tovu::detail::isLeapYear;
+using tovu::detail::kMonthLengths;
 
 int overflowCode(int maximum)
 {

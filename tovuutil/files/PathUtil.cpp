@@ -1,8 +1,6 @@
 #include "tovuutil/files/PathUtil.h"
 
-#include <chrono>
-#include <ctime>
-
+#include "tovuutil/datetime/TovuDate.h"
 #include "tovuutil/files/FileOperation.h"
 #include "tovuutil/files/detail/HostFileSystem.h"
 #include "tovuutil/text/BaseCodec.h"
@@ -130,18 +128,15 @@ namespace {
 // hours, minutes and seconds, one byte each.
 std::string timeStampName()
 {
-    auto const now = std::chrono::system_clock::now();
-    std::time_t const seconds = std::chrono::system_clock::to_time_t(now);
-    int const millis = static_cast<int>(
-        std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count() % 1000);
-    std::tm const local = tovu::detail::localTime(seconds);
-    int const year = local.tm_year + 1900;
+    TovuDate const now;
+    int const year = now.getDate().getYear();
+    int const millis = now.getTime().getMilliSeconds();
     unsigned char const record[9] = {
         static_cast<unsigned char>(year & 0xFF),   static_cast<unsigned char>((year >> 8) & 0xFF),
         static_cast<unsigned char>(millis & 0xFF), static_cast<unsigned char>((millis >> 8) & 0xFF),
-        static_cast<unsigned char>(local.tm_mon + 1), static_cast<unsigned char>(local.tm_mday),
-        static_cast<unsigned char>(local.tm_hour), static_cast<unsigned char>(local.tm_min),
-        static_cast<unsigned char>(local.tm_sec)};
+        static_cast<unsigned char>(now.getDate().getMonth()), static_cast<unsigned char>(now.getDate().getDay()),
+        static_cast<unsigned char>(now.getTime().getHours()), static_cast<unsigned char>(now.getTime().getMinutes()),
+        static_cast<unsigned char>(now.getTime().getSeconds())};
     char encoded[20] = {0};
     BaseEncode::Base64Encode(encoded, record, sizeof record);
     return replacePattern(encoded, "/", "-");
