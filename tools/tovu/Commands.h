@@ -17,6 +17,7 @@ int runTime(Args const& args);
 int runIni(Args const& args);
 int runProps(Args const& args);
 int runLib(Args const& args);
+int runRandom(Args const& args);
 
 } // namespace tovu::cli
 
