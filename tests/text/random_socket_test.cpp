@@ -5,7 +5,6 @@
 #include <cstring>
 #include <functional>
 #include <string>
-#include <thread>
 #include <vector>
 
 #ifndef _WIN32
@@ -106,26 +105,6 @@ TEST(RandomSocket, AMillionIdentifiersAreDistinct)
     auto const twin = std::adjacent_find(ids.begin(), ids.end());
     EXPECT_TRUE(twin == ids.end()) << *twin << " drawn twice";
     EXPECT_EQ(ids.front().size(), 12u);
-}
-
-TEST(RandomSocket, ThreadsSharingOneGeneratorNeverDrawTheSameValue)
-{
-    RandomSocket socket;
-    std::vector<std::vector<std::string>> drawn(4);
-    std::vector<std::thread> threads;
-    for (auto& mine : drawn)
-        threads.emplace_back([&socket, &mine] {
-            for (int i = 0; i < 25000; ++i)
-                mine.push_back(i % 2 ? socket.randomString(12) : tmRand(12));
-        });
-    for (auto& thread : threads)
-        thread.join();
-    std::vector<std::string> all;
-    for (auto const& mine : drawn)
-        all.insert(all.end(), mine.begin(), mine.end());
-    std::sort(all.begin(), all.end());
-    EXPECT_TRUE(std::adjacent_find(all.begin(), all.end()) == all.end());
-    EXPECT_EQ(all.size(), 100000u);
 }
 
 TEST(RandomSocket, LeavesTheRuntimeSequenceOfRandomAlone)
