@@ -18,6 +18,7 @@ int runDate(Args const& args);
 int runIni(Args const& args);
 int runProps(Args const& args);
 int runLib(Args const& args);
+int runRandom(Args const& args);
 
 } // namespace tovu::cli
 

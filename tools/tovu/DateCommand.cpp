@@ -1,5 +1,6 @@
 #include <tovuutil/tovuutil.h>
 
+#include "CommandLine.h"
 #include "Commands.h"
 
 namespace tovu::cli {
@@ -120,10 +121,12 @@ int run(std::string const& command, Args const& args)
 
 } // namespace
 
-int runDate(Args const& args)
+int runDate(Args const& arguments)
 {
-    if (helpRequested(args, kHelp))
-        return kOk;
+    CommandLine line;
+    if (auto const done = parseCommandLine("date", kHelp, arguments, {}, line))
+        return *done;
+    Args const& args = line.operands;
     if (args.empty())
         return usageError("date", "'today', 'add', 'diff', 'weekday', 'format' or 'week' expected");
     for (SubCommand const& sub : kSubCommands) {

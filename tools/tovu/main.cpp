@@ -28,6 +28,7 @@ constexpr Command kCommands[] = {
     {"ini", "read and change INI files", runIni},
     {"props", "read and change properties files", runProps},
     {"lib", "load a shared library and look up a symbol", runLib},
+    {"random", "random identifiers, unique across processes and machines", runRandom},
 };
 
 int help(std::ostream& stream, int status)
