@@ -35,5 +35,5 @@ for value in 0 1000001 3.5 1e3; do
 done
 expect 2 "" "tovu: random: --count needs a number$hint" random --length 8 --count
 expect 2 "" "tovu: random: unexpected argument '12'$hint" random 12
-expect 2 "" "tovu: random: unexpected argument '-n'$hint" random -n 3
+expect 2 "" "tovu: random: unknown option '-n'$hint" random -n 3
 finish
