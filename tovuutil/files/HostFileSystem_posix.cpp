@@ -37,7 +37,7 @@ std::string normalise(std::string const& path)
         }
         start = end + 1;
     }
-    std::string result = network ? "/" : "";
+    std::string result = network && !parts.empty() ? "/" : ""; // "//" alone names no server
     for (auto const& part : parts)
         result += "/" + part;
     if (result.empty())
