@@ -9,7 +9,6 @@
 #include <memory>
 #include <vector>
 
-#include "tovuutil/files/DirReader.h"
 #include "tovuutil/files/PathUtil.h"
 #include "tovuutil/files/detail/ErrnoText.h"
 #include "tovuutil/files/detail/FileReport.h"
@@ -17,7 +16,6 @@
 #include "tovuutil/files/detail/TreeWalk.h"
 #include "tovuutil/framework/Logger.h"
 #include "tovuutil/framework/detail/MethodMarker.h"
-#include "tovuutil/text/Random.h"
 #include "tovuutil/text/StringUtil.h"
 
 using tovu::detail::ErrnoTable;
