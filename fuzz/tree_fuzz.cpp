@@ -8,37 +8,17 @@
 
 #include <filesystem>
 #include <fstream>
-#include <map>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include <tovuutil/tovuutil.h>
 
 #include "FuzzFile.h"
+#include "framework/TreeSnapshot.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-std::map<std::string, std::string> snapshot(std::string const& root)
-{
-    std::map<std::string, std::string> entries;
-    for (auto it = fs::recursive_directory_iterator(root); it != fs::recursive_directory_iterator(); ++it) {
-        std::string const name = fs::relative(it->path(), root).string();
-        if (it->is_symlink()) {
-            entries[name] = "link:" + fs::read_symlink(it->path()).string();
-        } else if (it->is_directory()) {
-            entries[name] = "dir";
-        } else {
-            std::ifstream in(it->path(), std::ios::binary);
-            std::ostringstream bytes;
-            bytes << in.rdbuf();
-            entries[name] = bytes.str();
-        }
-    }
-    return entries;
-}
 
 // Names from a small alphabet of troublemakers.
 std::string nameFrom(std::uint8_t const*& p, std::uint8_t const* end)
@@ -62,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     fs::create_directories(base + "/out/dir");
     std::ofstream(base + "/out/file.txt") << "outside";
     std::ofstream(base + "/out/dir/inner.txt") << "outside too";
-    auto const before = snapshot(base + "/out");
+    auto const before = tovutest::snapshot(base + "/out");
 
     // Each step: a kind, a name and the folder (an earlier one) it goes into.
     std::vector<std::string> folders{base + "/t"};
@@ -100,7 +80,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     moveFolder(base + "/copy", base + "/moved", true, (size & 1) != 0);
     deleteDirRecursive(base + "/moved", (size & 2) != 0, true);
     deleteDirRecursive(base + "/t", (size & 4) != 0, true);
-    fuzzCheck(snapshot(base + "/out") == before, "a walk changed something outside its tree");
+    fuzzCheck(tovutest::snapshot(base + "/out") == before, "a walk changed something outside its tree");
     fuzzCheck(!fs::exists(fs::symlink_status(base + "/t")) && !fs::exists(fs::symlink_status(base + "/copy")) &&
                   !fs::exists(fs::symlink_status(base + "/moved")),
               "a walk left part of its tree");
