@@ -144,7 +144,7 @@ int removeTree(std::string const& rootPath, bool secure, bool deleteSelf)
     }
     Directory current(openDirectory(root, false));
     if (!current.valid())
-        return deleteSelf ? deleteDir(root) : 0; // nothing to empty
+        return deleteSelf ? deleteDir(rootPath) : 0; // nothing to empty
 
     struct Level {
         NodeId id;
@@ -214,7 +214,7 @@ int removeTree(std::string const& rootPath, bool secure, bool deleteSelf)
         stack.pop_back();
     }
     current.reset(-1);
-    return deleteSelf ? deleteDir(root) : 0;
+    return deleteSelf ? deleteDir(rootPath) : 0;
 }
 
 CopyOutcome copyTree(std::string const& fromPath, std::string const& toPath, bool overwrite)
