@@ -101,10 +101,10 @@ bool overwriteRandomly(int handle, long long length)
     return commitHandle(handle) == 0;
 }
 
-// Copies an open file to another; true when every byte was read and written.
-bool copyBytes(int in, int out)
+// Copies an open file to another through block; true when every byte was
+// read and written.
+bool copyBytes(int in, int out, std::vector<char>& block)
 {
-    std::vector<char> block(kBlock);
     long n;
     while ((n = readHandle(in, block.data(), block.size())) > 0)
         if (writeHandle(out, block.data(), static_cast<unsigned long>(n)) != n)
@@ -268,6 +268,7 @@ CopyOutcome copyTree(std::string const& fromPath, std::string const& toPath, boo
         outcome.complete = false;
         return outcome;
     };
+    std::vector<char> block(kBlock); // one buffer for every file
     // Copies one file of the current level; false ends the walk.
     auto copyOne = [&](TreeEntry const& entry) {
         bool const isLink = entry.type == EntryType::Link;
@@ -285,7 +286,7 @@ CopyOutcome copyTree(std::string const& fromPath, std::string const& toPath, boo
             return false;
         }
         int const out = in < 0 ? -1 : openFileAt(target.get(), entry.name, OpenAt::Create);
-        bool copied = out >= 0 && copyBytes(in, out);
+        bool copied = out >= 0 && copyBytes(in, out, block);
         if (out >= 0)
             copied = closeHandle(out) == 0 && copied;
         if (in >= 0)
