@@ -9,13 +9,13 @@
 #include <memory>
 #include <vector>
 
-#include "tovuutil/files/DirReader.h"
 #include "tovuutil/files/PathUtil.h"
 #include "tovuutil/files/detail/ErrnoText.h"
+#include "tovuutil/files/detail/FileReport.h"
 #include "tovuutil/files/detail/HostFileSystem.h"
+#include "tovuutil/files/detail/TreeWalk.h"
 #include "tovuutil/framework/Logger.h"
 #include "tovuutil/framework/detail/MethodMarker.h"
-#include "tovuutil/text/Random.h"
 #include "tovuutil/text/StringUtil.h"
 
 using tovu::detail::ErrnoTable;
@@ -24,36 +24,19 @@ namespace {
 
 constexpr std::size_t kBlock = 64 * 1024;
 
-Logger* log() { return Logger::getInstance("tovuutil.fileoperation"); }
+Logger* log() { return tovu::detail::fileOperationLog(); }
 
-// "<function>(<path>): <text of errno>"
-void reportErrno(char const* function, std::string const& path, ErrnoTable table, int error)
-{
-    Logger* logger = log();
-    if (logger->isErrorEnabled())
-        logger->error(std::string(function) + "(" + path + "): " + tovu::detail::errnoText(table, error));
-}
-
-// "<function>: <message with %1 = path>"
-void report(char const* function, char const* message, std::string const& path = std::string())
-{
-    Logger* logger = log();
-    if (logger->isErrorEnabled())
-        logger->error(std::string(function) + ": " + replacePattern(message, "%1", path));
-}
+using tovu::detail::report;
+using tovu::detail::reportErrno;
 
 std::string absolute(std::string const& path) { return getAbsolutePath(path); }
 
-// A symbolic link to a directory, or one pointing nowhere: copying it would
-// mean following it. A link to a file is copied as a plain file.
-bool isLinkToNonFile(std::string const& path)
+// A file, or a symbolic link itself (even one pointing nowhere).
+bool exists(std::string const& path)
 {
     tovu::detail::PathStatus status;
-    return tovu::detail::statPath(path, status) == 0 && status.isLink && !status.linksToFile;
+    return fileExists(path) || tovu::detail::linkStatus(path, status) == 0;
 }
-
-// A file, or a symbolic link itself (even one pointing nowhere).
-bool exists(std::string const& path) { return fileExists(path) || pathExists(path) != 0; }
 
 struct FileCloser {
     void operator()(std::FILE* file) const
@@ -162,31 +145,23 @@ int deleteFileSecure(std::string const& path)
         report("deleteFileSecure", tovu::detail::kFileMissing, p);
         return -1;
     }
-    long const length = getFileLength(p);
-    File file = openFile(p, "r+b");
-    if (!file) {
-        // Nothing overwritten, so nothing deleted either.
+    // The file is overwritten through its directory, never through a link:
+    // a link itself is only removed.
+    std::string::size_type const slash = p.rfind(tovu::detail::pathSeparator());
+    std::string const parent = slash == std::string::npos ? "." : slash == 0 ? p.substr(0, 1) : p.substr(0, slash);
+    std::string const name = slash == std::string::npos ? p : p.substr(slash + 1);
+    tovu::detail::PathStatus status;
+    int const directory = tovu::detail::openDirectory(parent, true);
+    if (directory < 0 || tovu::detail::linkStatus(p, status) != 0) {
+        if (directory >= 0)
+            tovu::detail::closeDirectory(directory);
         report("deleteFileSecure", tovu::detail::kNotDeleted);
         return -1;
     }
-    Random random;
-    std::vector<unsigned char> block(kBlock);
-    bool written = true;
-    for (long done = 0; done < length && written;) {
-        std::size_t const count = static_cast<std::size_t>(std::min<long>(length - done, static_cast<long>(kBlock)));
-        for (std::size_t i = 0; i < count; ++i)
-            block[i] = static_cast<unsigned char>(random.random());
-        written = writeAll(file.get(), block.data(), count);
-        done += static_cast<long>(count);
-    }
-    // The overwrite must reach the disk before the name goes away.
-    written = written && std::fflush(file.get()) == 0 && tovu::detail::syncFile(fileno(file.get())) == 0;
-    written = std::fclose(file.release()) == 0 && written;
-    if (!written) {
-        report("deleteFileSecure", tovu::detail::kNotDeleted);
-        return -1;
-    }
-    return deleteFile(p);
+    int const result =
+        tovu::detail::removeFileAt(directory, name, p, true, status.isLink);
+    tovu::detail::closeDirectory(directory);
+    return result;
 }
 
 int deleteDir(std::string const& path)
@@ -204,42 +179,7 @@ int deleteDir(std::string const& path)
 
 int deleteDirRecursive(std::string const& path, bool secure, bool deleteSelf)
 {
-    // An explicit stack instead of recursion: deep trees cannot exhaust the
-    // call stack. Each level deletes its files, then its subdirectories one
-    // by one (each completely), then itself; the first failure ends everything.
-    struct Level {
-        std::string path;
-        std::list<std::string> directories;
-        bool deleteSelf;
-    };
-    auto enter = [secure](std::string const& directory, bool self, int& result) {
-        std::string const p = absolute(directory);
-        DirReader reader(p, "*.*");
-        for (auto const& name : reader.getFiles()) {
-            if (result != 0)
-                break;
-            std::string const file = getFullFilename(p, name);
-            result = secure ? deleteFileSecure(file) : deleteFile(file);
-        }
-        return Level{p, reader.getDirectories(), self};
-    };
-
-    int result = 0;
-    std::vector<Level> stack;
-    stack.push_back(enter(path, deleteSelf, result));
-    while (!stack.empty() && result == 0) {
-        Level& top = stack.back();
-        if (!top.directories.empty()) {
-            std::string const next = concatPath(top.path, top.directories.front());
-            top.directories.pop_front();
-            stack.push_back(enter(next, true, result));
-            continue;
-        }
-        if (top.deleteSelf)
-            result = deleteDir(top.path);
-        stack.pop_back();
-    }
-    return result;
+    return tovu::detail::removeTree(absolute(path), secure, deleteSelf);
 }
 
 long getFileLength(std::string const& path)
@@ -255,25 +195,12 @@ long getFileLength(std::string const& path)
     return std::ftell(file.get());
 }
 
-int moveFile(std::string const& from, std::string const& to, bool overwrite, bool secure)
+namespace {
+// copyFile with the whole truth: complete is true only when every byte was
+// read and written and the target was closed without error.
+bool copyFileDo(std::string const& from, std::string const& to, bool overwrite, bool& complete)
 {
-    if (absolute(from) == absolute(to))
-        return copyFile(from, to, overwrite) ? 0 : -1; // nothing to move, nothing to delete
-    if (!copyFile(from, to, overwrite))
-        return -1;
-    int const removed = secure ? deleteFileSecure(from) : deleteFile(from);
-    return removed != 0 ? 1 : 0;
-}
-
-int moveFolder(std::string const& from, std::string const& to, bool overwrite, bool secure)
-{
-    if (!copyFolder(from, to, overwrite))
-        return -1;
-    return deleteDirRecursive(from, secure, true);
-}
-
-bool copyFile(std::string const& from, std::string const& to, bool overwrite)
-{
+    complete = false;
     std::string const source = absolute(from);
     std::string const target = absolute(to);
     if (!fileExists(source)) {
@@ -284,64 +211,71 @@ bool copyFile(std::string const& from, std::string const& to, bool overwrite)
         report("copyFile", tovu::detail::kFileExists, target);
         return false;
     }
+    complete = true;
     if (source == target)
         return true; // truncating the target would destroy the source
     File in = openFile(source, "rb");
     File out = openFile(target, "wb");
-    if (in && out) {
+    complete = in && out;
+    if (complete) {
         std::vector<char> block(kBlock);
         std::size_t count;
-        // Errors while copying do not change the result: the copy was attempted.
-        while ((count = std::fread(block.data(), 1, block.size(), in.get())) > 0)
-            if (!writeAll(out.get(), block.data(), count))
-                break;
+        while (complete && (count = std::fread(block.data(), 1, block.size(), in.get())) > 0)
+            complete = writeAll(out.get(), block.data(), count);
+        complete = complete && !std::ferror(in.get());
     }
+    if (out)
+        complete = std::fclose(out.release()) == 0 && complete;
     return true;
+}
+
+// A root that is a symbolic link is not moved: deleting it would mean
+// deleting through the link.
+bool refuseLinkRoot(std::string const& path)
+{
+    std::string p = absolute(path);
+    while (p.size() > 1 && p.back() == tovu::detail::pathSeparator())
+        p.pop_back();
+    tovu::detail::PathStatus status;
+    if (tovu::detail::linkStatus(p, status) != 0 || !status.isLink)
+        return false;
+    reportErrno("deleteDir", p, ErrnoTable::DeleteDir, ENOTDIR);
+    return true;
+}
+} // namespace
+
+int moveFile(std::string const& from, std::string const& to, bool overwrite, bool secure)
+{
+    bool complete = false;
+    if (absolute(from) == absolute(to))
+        return copyFileDo(from, to, overwrite, complete) ? 0 : -1; // nothing to move, nothing to delete
+    if (!copyFileDo(from, to, overwrite, complete) || !complete)
+        return -1; // the source stays unless its copy is whole
+    int const removed = secure ? deleteFileSecure(from) : deleteFile(from);
+    return removed != 0 ? 1 : 0;
+}
+
+int moveFolder(std::string const& from, std::string const& to, bool overwrite, bool secure)
+{
+    if (refuseLinkRoot(from))
+        return -1;
+    tovu::detail::CopyOutcome const copied = tovu::detail::copyTree(from, to, overwrite);
+    if (!copied.answer || !copied.complete)
+        return -1;
+    if (copied.sourceKeepsCopy)
+        return 1; // deleting the source would delete the copy
+    return deleteDirRecursive(from, secure, true);
+}
+
+bool copyFile(std::string const& from, std::string const& to, bool overwrite)
+{
+    bool complete = false;
+    return copyFileDo(from, to, overwrite, complete);
 }
 
 bool copyFolder(std::string const& from, std::string const& to, bool overwrite)
 {
-    // An explicit stack instead of recursion. Each level creates its target,
-    // copies its subdirectories one by one (each completely), then its files;
-    // the first failure ends everything and what was copied stays.
-    struct Level {
-        std::string from, to;
-        std::list<std::string> directories, files;
-    };
-    auto enter = [](std::string const& source, std::string const& target, std::vector<Level>& stack) {
-        std::string const s = absolute(source);
-        std::string const t = absolute(target);
-        if (pathExists(t) == 0)
-            createDir(t, 511);
-        if (pathExists(s) != 'd')
-            return false;
-        DirReader reader(s, "*.*");
-        stack.push_back(Level{s, t, reader.getDirectories(), reader.getFiles()});
-        return true;
-    };
-
-    std::vector<Level> stack;
-    if (!enter(from, to, stack))
-        return false;
-    while (!stack.empty()) {
-        Level& top = stack.back();
-        if (!top.directories.empty()) {
-            std::string const name = top.directories.front();
-            top.directories.pop_front();
-            if (!enter(concatPath(top.from, name), concatPath(top.to, name), stack))
-                return false;
-            continue;
-        }
-        for (auto const& name : top.files) {
-            std::string const source = getFullFilename(top.from, name);
-            if (isLinkToNonFile(source))
-                continue; // links are never followed into directories or nowhere
-            if (!copyFile(source, getFullFilename(top.to, name), overwrite))
-                return false;
-        }
-        stack.pop_back();
-    }
-    return true;
+    return tovu::detail::copyTree(from, to, overwrite).answer;
 }
 
 int fileAccess(std::string const& path, int mode)

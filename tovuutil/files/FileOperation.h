@@ -19,9 +19,24 @@
 //   moveFolder 0 done, 1 copied but the source stayed, -1 copy failed;
 //   pathExists 'd', 'f' or 0; readBinaryFromFile the byte count or -1.
 //
-// Symbolic links are never followed by the tree walks (deleteDirRecursive,
-// copyFolder, moveFolder): a link is listed among the files; deleting it
-// removes the link, never its target, so nothing outside the tree is deleted.
+// The tree walks (deleteDirRecursive, copyFolder, moveFolder) touch nothing
+// outside the tree they are given. Names read from a directory are names,
+// never paths: on POSIX "..\x" is a file like any other. A symbolic link
+// inside a tree is never followed into a directory: deleting removes the link
+// itself (a secure delete overwrites regular files only, never a link's
+// target); copying copies a link to a file as the file's bytes and skips
+// links to directories and dangling links. A root given as a symbolic link is
+// refused by deleteDirRecursive and moveFolder (-1, nothing touched) and
+// followed by copyFolder. Depth is limited by the file system only.
+//
+// pathExists, getFileTime, createDir and copyFolder's root test follow
+// symbolic links, as stat does; deleteFile of a link removes the link.
+//
+// One deliberate difference from the historical behaviour: moveFile and
+// moveFolder delete the source only when the copy verifiably completed (every
+// byte written, every target closed without error); otherwise they answer -1
+// and leave the source as it was. copyFile and copyFolder still answer true
+// for copies that were attempted but failed to write.
 
 // Changes the working directory.
 TOVU_API bool changeDir(std::string const& path);
@@ -41,24 +56,30 @@ TOVU_API int deleteDir(std::string const& path);
 
 // Deletes the files (securely if asked) and subdirectories of a tree, and the
 // directory itself if deleteSelf. The first failure stops the walk; what was
-// deleted stays deleted.
+// deleted stays deleted. -1 without touching anything when path is a
+// symbolic link.
 TOVU_API int deleteDirRecursive(std::string const& path, bool secure, bool deleteSelf);
 
 // The size in bytes, or -1 when the file does not exist or cannot be opened.
 TOVU_API long getFileLength(std::string const& path);
 
-// copyFile, then the source removed (securely if asked).
+// copyFile, then the source removed (securely if asked) - but only when the
+// copy is whole; -1 and the source untouched otherwise.
 TOVU_API int moveFile(std::string const& from, std::string const& to, bool overwrite, bool secure);
 
-// copyFolder, then deleteDirRecursive of the source.
+// copyFolder, then deleteDirRecursive of the source - but only when every
+// file was copied whole; -1 and the source untouched otherwise, and -1 for a
+// source that is a symbolic link. 1 when the copy lies inside the source.
 TOVU_API int moveFolder(std::string const& from, std::string const& to, bool overwrite, bool secure);
 
 // A byte copy in bounded memory. Refuses a missing source, and an existing
-// target unless overwrite. Copying a file onto itself changes nothing.
+// target unless overwrite. Copying a file onto itself changes nothing. A
+// target that cannot be opened or written still gives true (see above).
 TOVU_API bool copyFile(std::string const& from, std::string const& to, bool overwrite);
 
 // Creates the target if missing, then copies subdirectories first, then
-// files; stops at the first failure.
+// files; stops at the first failure. A copy made inside its own source is
+// not copied again.
 TOVU_API bool copyFolder(std::string const& from, std::string const& to, bool overwrite);
 
 // The host's access test; mode 0 existence, 2 write, 4 read, 6 both.
@@ -86,8 +107,8 @@ TOVU_API bool compareFilesBinary(std::string const& a, std::string const& b);
 // fileAccess(path, 0) != -1; a missing file logs the fileAccess ENOENT line.
 TOVU_API bool fileExists(std::string const& path);
 
-// 'd' for a directory, 'f' for anything else that exists (a symbolic link
-// itself included), 0 when nothing is there. Logs nothing.
+// 'd' for a directory, 'f' for anything else that exists, 0 when nothing is
+// there; symbolic links are followed (a dangling one gives 0). Logs nothing.
 TOVU_API char pathExists(std::string const& path);
 
 // The host's chmod.

@@ -37,7 +37,7 @@ std::string normalise(std::string const& path)
         }
         start = end + 1;
     }
-    std::string result = network ? "/" : "";
+    std::string result = network && !parts.empty() ? "/" : ""; // "//" alone names no server
     for (auto const& part : parts)
         result += "/" + part;
     if (result.empty())
@@ -98,17 +98,42 @@ int accessPath(std::string const& path, int mode)
 
 int changeFileMode(std::string const& path, int mode) { return chmod(path.c_str(), static_cast<mode_t>(mode)); }
 
+namespace {
+void fill(struct stat const& info, PathStatus& status)
+{
+    status.isDirectory = S_ISDIR(info.st_mode);
+    status.isLink = S_ISLNK(info.st_mode);
+    status.isRegular = S_ISREG(info.st_mode);
+    status.links = static_cast<unsigned long>(info.st_nlink);
+    status.size = static_cast<long long>(info.st_size);
+    status.modified = info.st_mtime;
+}
+} // namespace
+
 int statPath(std::string const& path, PathStatus& status)
+{
+    struct stat info;
+    if (stat(path.c_str(), &info) != 0)
+        return -1;
+    fill(info, status);
+    return 0;
+}
+
+int linkStatus(std::string const& path, PathStatus& status)
 {
     struct stat info;
     if (lstat(path.c_str(), &info) != 0)
         return -1;
-    status.isDirectory = S_ISDIR(info.st_mode);
-    status.isLink = S_ISLNK(info.st_mode);
-    struct stat target;
-    status.linksToFile = status.isLink && stat(path.c_str(), &target) == 0 && S_ISREG(target.st_mode);
-    status.size = static_cast<long long>(info.st_size);
-    status.modified = info.st_mtime;
+    fill(info, status);
+    return 0;
+}
+
+int handleStatus(int handle, PathStatus& status)
+{
+    struct stat info;
+    if (fstat(handle, &info) != 0)
+        return -1;
+    fill(info, status);
     return 0;
 }
 
@@ -138,8 +163,6 @@ bool readDirectory(std::string const& path, std::vector<DirectoryEntry>& entries
     closedir(directory);
     return true;
 }
-
-int syncFile(int descriptor) { return fsync(descriptor); }
 
 } // namespace detail
 } // namespace tovu

@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <cstring>
 
+#include <windows.h>
+
 #include <direct.h>
 #include <io.h>
 #include <sys/stat.h>
@@ -52,14 +54,47 @@ int makeDirectory(std::string const& path, int) { return _mkdir(path.c_str()); }
 int accessPath(std::string const& path, int mode) { return _access(path.c_str(), mode); }
 int changeFileMode(std::string const& path, int mode) { return _chmod(path.c_str(), mode); }
 
+namespace {
+void fill(struct _stat64 const& info, PathStatus& status)
+{
+    status.isDirectory = (info.st_mode & _S_IFDIR) != 0;
+    status.isRegular = (info.st_mode & _S_IFREG) != 0;
+    status.links = static_cast<unsigned long>(info.st_nlink);
+    status.size = info.st_size;
+    status.modified = static_cast<std::time_t>(info.st_mtime);
+}
+} // namespace
+
 int statPath(std::string const& path, PathStatus& status)
 {
     struct _stat64 info;
     if (_stat64(path.c_str(), &info) != 0)
         return -1;
-    status.isDirectory = (info.st_mode & _S_IFDIR) != 0;
-    status.size = info.st_size;
-    status.modified = static_cast<std::time_t>(info.st_mtime);
+    fill(info, status);
+    return 0;
+}
+
+int linkStatus(std::string const& path, PathStatus& status)
+{
+    DWORD const attributes = GetFileAttributesA(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+        errno = ENOENT;
+        return -1;
+    }
+    if (attributes & FILE_ATTRIBUTE_REPARSE_POINT) {
+        status = PathStatus();
+        status.isLink = true;
+        return 0;
+    }
+    return statPath(path, status);
+}
+
+int handleStatus(int handle, PathStatus& status)
+{
+    struct _stat64 info;
+    if (_fstat64(handle, &info) != 0)
+        return -1;
+    fill(info, status);
     return 0;
 }
 
@@ -83,8 +118,6 @@ bool readDirectory(std::string const& path, std::vector<DirectoryEntry>& entries
     _findclose(handle);
     return true;
 }
-
-int syncFile(int descriptor) { return _commit(descriptor); }
 
 } // namespace detail
 } // namespace tovu

@@ -51,11 +51,11 @@ ObjectLifetimeManager::ObjectLifetimeManager()
 
 ObjectLifetimeManager::~ObjectLifetimeManager()
 {
-    // Being destroyed: never delete ourselves again, and only shut down what
-    // we still run. A destructor never creates a new manager.
+    // Being destroyed: never delete ourselves again. Any manager going away
+    // shuts the process-wide one down, but a destructor never creates one.
     dynamically_allocated_ = 0;
-    if (instance_ == this)
-        shutdown();
+    if (instance_ != nullptr)
+        instance_->shutdown();
 }
 
 ObjectLifetimeManager* ObjectLifetimeManager::instance()

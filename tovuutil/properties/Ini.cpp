@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "tovuutil/framework/Logger.h"
-#include "tovuutil/properties/detail/LowLevelFile.h"
+#include "tovuutil/files/detail/HostFileSystem.h"
 #include "tovuutil/properties/detail/TextMode.h"
 #include "tovuutil/text/StringUtil.h"
 
@@ -179,8 +179,15 @@ bool Ini::writeFile(std::string const& content, bool& opened)
     if (path.empty())
         return false; // never opened: there is no file to write
     std::string const target = tovu::detail::realTarget(path);
+    tovu::detail::PathStatus status;
+    bool const existing = tovu::detail::statPath(target, status) == 0;
+    if (existing && status.isDirectory)
+        return false; // a directory cannot be opened for writing
+    // Every name of a hard-linked file must see the new content: those are
+    // rewritten in place, all others replaced at once by a new file.
     std::string sibling;
-    int const temporary = tovu::detail::createSibling(target, sibling);
+    int const temporary =
+        existing && status.links > 1 ? -1 : tovu::detail::createSibling(target, sibling);
     if (temporary >= 0) {
         opened = true;
         tovu::detail::copyPermissions(target, temporary);
@@ -190,18 +197,22 @@ bool Ini::writeFile(std::string const& content, bool& opened)
         ok = tovu::detail::closeHandle(temporary) == 0 && ok;
         ok = ok && tovu::detail::replaceFile(sibling, target) == 0;
         if (!ok) {
-            tovu::detail::removePath(sibling); // the old file stays as it was
+            tovu::detail::removeFile(sibling); // the old file stays as it was
             return fail();
         }
         return true;
     }
-    // Nowhere to put a new file beside it (a read-only directory): in place.
-    if (!Log::Open(path.c_str(), false, false, true))
+    // In place. The space is claimed before anything is overwritten, so a
+    // full disk leaves the old content whole.
+    int const handle = existing ? tovu::detail::openForUpdate(target) : tovu::detail::openForWriting(target, false);
+    if (handle == -1)
         return false;
     opened = true;
-    bool const ok = tovu::detail::writeHandle(handle, content.data(), content.size()) ==
-                        static_cast<long>(content.size()) &&
-                    tovu::detail::commitHandle(handle) == 0;
+    long long const length = static_cast<long long>(content.size());
+    bool ok = tovu::detail::reserveHandle(handle, length) == 0 && tovu::detail::seekHandle(handle, 0) == 0 &&
+              tovu::detail::writeHandle(handle, content.data(), content.size()) == static_cast<long>(length) &&
+              tovu::detail::resizeHandle(handle, length) == 0 && tovu::detail::commitHandle(handle) == 0;
+    ok = tovu::detail::closeHandle(handle) == 0 && ok;
     return ok ? true : fail();
 }
 

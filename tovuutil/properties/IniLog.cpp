@@ -3,7 +3,7 @@
 #include <cstdarg>
 #include <cstdio>
 
-#include "tovuutil/properties/detail/LowLevelFile.h"
+#include "tovuutil/files/detail/HostFileSystem.h"
 #include "tovuutil/properties/detail/TextMode.h"
 
 namespace msvc_tovu_ini_wrapper {

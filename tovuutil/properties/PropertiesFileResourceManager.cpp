@@ -1,6 +1,7 @@
 #include "tovuutil/properties/PropertiesFileResourceManager.h"
 
 #include "tovuutil/files/PathUtil.h"
+#include "tovuutil/files/detail/HostFileSystem.h"
 #include "tovuutil/framework/Logger.h"
 #include "tovuutil/properties/Properties.h"
 #include "tovuutil/properties/SystemProperties.h"
@@ -8,11 +9,6 @@
 
 namespace {
 constexpr char kCannotLoad[] = "Properties Datei '%1' kann nicht geladen werden.";
-#if defined(_WIN32)
-constexpr char kSeparator = '\\';
-#else
-constexpr char kSeparator = '/';
-#endif
 } // namespace
 
 PropertiesFileResourceManager::PropertiesFileResourceManager()
@@ -49,7 +45,7 @@ std::string PropertiesFileResourceManager::getFileName(std::string const& name)
         ownLogger_->beginMethod(marker);
     std::string path = transformPath(name);
     std::string key;
-    if (path.find(kSeparator) != std::string::npos) {
+    if (path.find(tovu::detail::pathSeparator()) != std::string::npos) {
         key = getAbsolutePath(path);
     } else {
         key = getFullFilename(getSystemPropertyIniHome(), path);

@@ -1,9 +1,10 @@
-#include "tovuutil/properties/detail/LowLevelFile.h"
+#include "tovuutil/files/detail/HostFileSystem.h"
 
 #include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
+#include <algorithm>
 #include <vector>
 
 #include <fcntl.h>
@@ -19,6 +20,8 @@ int openForWriting(std::string const& path, bool append)
 {
     return open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | (append ? O_APPEND : O_TRUNC), S_IRUSR | S_IWUSR);
 }
+
+int openForUpdate(std::string const& path) { return open(path.c_str(), O_WRONLY | O_CLOEXEC); }
 
 int closeHandle(int handle) { return close(handle); }
 
@@ -52,6 +55,43 @@ long long seekHandle(int handle, long long position) { return lseek(handle, posi
 
 int commitHandle(int handle) { return fsync(handle); }
 
+int reserveHandle(int handle, long long length)
+{
+    if (length <= 0)
+        return 0;
+    int const error = posix_fallocate(handle, 0, static_cast<off_t>(length));
+    if (error == 0)
+        return 0;
+    if (error != EOPNOTSUPP && error != EINVAL) {
+        errno = error;
+        return -1;
+    }
+    // No allocation on this file system: grow the file with zeros past its
+    // end, which claims the blocks as a write would.
+    struct stat info;
+    if (fstat(handle, &info) != 0)
+        return -1;
+    static char const zeros[4096] = {};
+    for (off_t at = info.st_size; at < static_cast<off_t>(length);) {
+        std::size_t const count = static_cast<std::size_t>(std::min<off_t>(static_cast<off_t>(length) - at, 4096));
+        ssize_t const n = pwrite(handle, zeros, count, at);
+        if (n < 0) {
+            if (errno == EINTR)
+                continue;
+            int const saved = errno;
+            if (ftruncate(handle, info.st_size) != 0) {
+                // the zeros stay; the old content is unchanged
+            }
+            errno = saved;
+            return -1;
+        }
+        at += n;
+    }
+    return 0;
+}
+
+int resizeHandle(int handle, long long length) { return ftruncate(handle, static_cast<off_t>(length)); }
+
 void setNormalAttributes(std::string const&) {}
 
 std::string realTarget(std::string const& target)
@@ -75,7 +115,10 @@ std::string realTarget(std::string const& target)
 
 int createSibling(std::string const& target, std::string& siblingPath)
 {
-    std::string pattern = target + ".XXXXXX";
+    // A short fixed name beside the target: a target name near the length
+    // limit must not make the temporary name too long.
+    std::string::size_type const slash = target.rfind('/');
+    std::string pattern = (slash == std::string::npos ? std::string() : target.substr(0, slash + 1)) + ".tovu.XXXXXX";
     std::vector<char> name(pattern.begin(), pattern.end());
     name.push_back('\0');
     int const handle = mkostemp(name.data(), O_CLOEXEC);
@@ -95,8 +138,6 @@ int replaceFile(std::string const& sibling, std::string const& target)
 {
     return std::rename(sibling.c_str(), target.c_str());
 }
-
-int removePath(std::string const& path) { return unlink(path.c_str()); }
 
 } // namespace detail
 } // namespace tovu
