@@ -39,7 +39,7 @@ constexpr Tables makeTables()
 
 constexpr Tables kTables = makeTables();
 
-void encodeScalar(char* out, unsigned char const* in, unsigned long n)
+void encodeScalar(unsigned char* out, unsigned char const* in, unsigned long n)
 {
     for (unsigned long i = 0; i < n; ++i)
         std::memcpy(out + 2 * i, kEncode.pair[in[i]], 2);
@@ -70,23 +70,12 @@ namespace detail {
 
 unsigned long base16Encode(VectorCodecs const* vector, void* dst, void const* src, unsigned long n)
 {
-    requireBuffers(dst, src);
-    auto const* in = static_cast<unsigned char const*>(src);
-    auto* out = static_cast<unsigned char*>(dst);
-    unsigned long const done = vector ? static_cast<unsigned long>(vector->base16Encode(out, in, n)) : 0;
-    encodeScalar(reinterpret_cast<char*>(out + 2 * done), in + done, n - done);
-    return 2 * n;
+    return encodeInTurns(vector ? vector->base16Encode : nullptr, encodeScalar, dst, src, n, 1, 2);
 }
 
 unsigned long base16Decode(VectorCodecs const* vector, void* dst, void const* src, unsigned long n)
 {
-    requireBuffers(dst, src);
-    requireMultiple(n, 2);
-    auto const* in = static_cast<unsigned char const*>(src);
-    auto* out = static_cast<unsigned char*>(dst);
-    if (vector == nullptr)
-        return decodeScalar(out, in, n / 2);
-    return decodeInTurns(vector->base16Decode, decodeScalar, out, in, n / 2, 2, 1);
+    return decodeInTurns(vector ? vector->base16Decode : nullptr, decodeScalar, dst, src, n, 2, 1);
 }
 
 } // namespace detail

@@ -79,7 +79,7 @@ unsigned long bytesOfBlock(unsigned char const* block)
 }
 
 // Encodes n bytes, the last block padded.
-void encodeScalar(char* out, unsigned char const* in, unsigned long n)
+void encodeScalar(unsigned char* out, unsigned char const* in, unsigned long n)
 {
     unsigned long const whole = n - n % 5;
     for (unsigned long i = 0; i < whole; i += 5, out += 8) {
@@ -137,23 +137,12 @@ namespace detail {
 
 unsigned long base32Encode(VectorCodecs const* vector, void* dst, void const* src, unsigned long n)
 {
-    requireBuffers(dst, src);
-    auto const* in = static_cast<unsigned char const*>(src);
-    auto* out = static_cast<unsigned char*>(dst);
-    unsigned long const done = vector ? static_cast<unsigned long>(vector->base32Encode(out, in, n / 5)) : 0;
-    encodeScalar(reinterpret_cast<char*>(out + 8 * done), in + 5 * done, n - 5 * done);
-    return (n / 5 + (n % 5 != 0)) * 8;
+    return encodeInTurns(vector ? vector->base32Encode : nullptr, encodeScalar, dst, src, n, 5, 8);
 }
 
 unsigned long base32Decode(VectorCodecs const* vector, void* dst, void const* src, unsigned long n)
 {
-    requireBuffers(dst, src);
-    requireMultiple(n, 8);
-    auto const* in = static_cast<unsigned char const*>(src);
-    auto* out = static_cast<unsigned char*>(dst);
-    if (vector == nullptr)
-        return decodeScalar(out, in, n / 8);
-    return decodeInTurns(vector->base32Decode, decodeScalar, out, in, n / 8, 8, 5);
+    return decodeInTurns(vector ? vector->base32Decode : nullptr, decodeScalar, dst, src, n, 8, 5);
 }
 
 } // namespace detail

@@ -135,23 +135,12 @@ namespace detail {
 
 unsigned long base64Encode(VectorCodecs const* vector, void* dst, void const* src, unsigned long n)
 {
-    requireBuffers(dst, src);
-    auto const* in = static_cast<unsigned char const*>(src);
-    auto* out = static_cast<unsigned char*>(dst);
-    unsigned long const done = vector ? static_cast<unsigned long>(vector->base64Encode(out, in, n / 3)) : 0;
-    encodeScalar(out + 4 * done, in + 3 * done, n - 3 * done);
-    return (n / 3 + (n % 3 != 0)) * 4;
+    return encodeInTurns(vector ? vector->base64Encode : nullptr, encodeScalar, dst, src, n, 3, 4);
 }
 
 unsigned long base64Decode(VectorCodecs const* vector, void* dst, void const* src, unsigned long n)
 {
-    requireBuffers(dst, src);
-    requireMultiple(n, 4);
-    auto const* in = static_cast<unsigned char const*>(src);
-    auto* out = static_cast<unsigned char*>(dst);
-    if (vector == nullptr)
-        return decodeScalar(out, in, n / 4);
-    return decodeInTurns(vector->base64Decode, decodeScalar, out, in, n / 4, 4, 3);
+    return decodeInTurns(vector ? vector->base64Decode : nullptr, decodeScalar, dst, src, n, 4, 3);
 }
 
 } // namespace detail

@@ -31,10 +31,16 @@ TOVU_TARGET_AVX2 inline __m256i loadLanes(unsigned char const* p, std::size_t st
     return _mm256_inserti128_si256(_mm256_castsi128_si256(low), high, 1);
 }
 
-TOVU_TARGET_AVX2 inline __m256i within(__m256i x, char limit)
+TOVU_TARGET_AVX2 inline __m256i rangeValue(__m256i c, char first, char count, char value, __m256i& hit)
 {
-    return _mm256_cmpeq_epi8(_mm256_min_epu8(x, _mm256_set1_epi8(limit)), x);
+    __m256i const offset = _mm256_sub_epi8(c, _mm256_set1_epi8(first));
+    __m256i const in =
+        _mm256_cmpeq_epi8(_mm256_min_epu8(offset, _mm256_set1_epi8(static_cast<char>(count - 1))), offset);
+    hit = _mm256_or_si256(hit, in);
+    return _mm256_and_si256(in, _mm256_add_epi8(offset, _mm256_set1_epi8(value)));
 }
+
+TOVU_TARGET_AVX2 inline __m256i foldCase(__m256i c) { return _mm256_or_si256(c, _mm256_set1_epi8(0x20)); }
 
 TOVU_TARGET_AVX2 inline bool allSet(__m256i mask) { return _mm256_movemask_epi8(mask) == -1; }
 
@@ -61,13 +67,10 @@ TOVU_TARGET_AVX2 std::size_t base16Encode(unsigned char* out, unsigned char cons
 
 TOVU_TARGET_AVX2 inline __m256i hexPairs(__m256i c, bool& valid)
 {
-    __m256i const digit = _mm256_sub_epi8(c, _mm256_set1_epi8('0'));
-    __m256i const letter = _mm256_sub_epi8(_mm256_or_si256(c, _mm256_set1_epi8(0x20)), _mm256_set1_epi8('a'));
-    __m256i const isDigit = within(digit, 9);
-    __m256i const isLetter = within(letter, 5);
-    valid = valid && allSet(_mm256_or_si256(isDigit, isLetter));
-    __m256i const value = _mm256_or_si256(_mm256_and_si256(isDigit, digit),
-                                          _mm256_and_si256(isLetter, _mm256_add_epi8(letter, _mm256_set1_epi8(10))));
+    __m256i hit = _mm256_setzero_si256();
+    __m256i const value =
+        _mm256_or_si256(rangeValue(c, '0', 10, 0, hit), rangeValue(foldCase(c), 'a', 6, 10, hit));
+    valid = valid && allSet(hit);
     return _mm256_maddubs_epi16(value, _mm256_set1_epi16(0x0110));
 }
 
@@ -119,14 +122,11 @@ TOVU_TARGET_AVX2 std::size_t base32Decode(unsigned char* out, unsigned char cons
     std::size_t block = 0;
     for (; block + 4 <= blocks; block += 4) {
         __m256i const c = load(in + 8 * block);
-        __m256i const letter = _mm256_sub_epi8(_mm256_or_si256(c, _mm256_set1_epi8(0x20)), _mm256_set1_epi8('a'));
-        __m256i const digit = _mm256_sub_epi8(c, _mm256_set1_epi8('2'));
-        __m256i const isLetter = within(letter, 25);
-        __m256i const isDigit = within(digit, 5);
-        if (!allSet(_mm256_or_si256(isLetter, isDigit)))
+        __m256i hit = _mm256_setzero_si256();
+        __m256i const value =
+            _mm256_or_si256(rangeValue(foldCase(c), 'a', 26, 0, hit), rangeValue(c, '2', 6, 26, hit));
+        if (!allSet(hit))
             break;
-        __m256i const value = _mm256_or_si256(_mm256_and_si256(isLetter, letter),
-                                              _mm256_and_si256(isDigit, _mm256_add_epi8(digit, _mm256_set1_epi8(26))));
         __m256i const pairs = _mm256_maddubs_epi16(value, _mm256_set1_epi16(0x0120));
         __m256i const halves = _mm256_madd_epi16(pairs, _mm256_set1_epi32(0x00010400));
         __m256i const words = _mm256_or_si256(_mm256_slli_epi64(halves, 20), _mm256_srli_epi64(halves, 32));

@@ -19,11 +19,18 @@ TOVU_TARGET_SSSE3 inline void store(unsigned char* p, __m128i v)
     _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v);
 }
 
-// Bytes of x that lie in [0, limit], as all-ones lanes.
-TOVU_TARGET_SSSE3 inline __m128i within(__m128i x, char limit)
+// Character values by range: where c lies in [first, first + count), sets
+// the lane of `hit` and yields c - first + value; zero elsewhere.
+TOVU_TARGET_SSSE3 inline __m128i rangeValue(__m128i c, char first, char count, char value, __m128i& hit)
 {
-    return _mm_cmpeq_epi8(_mm_min_epu8(x, _mm_set1_epi8(limit)), x);
+    __m128i const offset = _mm_sub_epi8(c, _mm_set1_epi8(first));
+    __m128i const in = _mm_cmpeq_epi8(_mm_min_epu8(offset, _mm_set1_epi8(static_cast<char>(count - 1))), offset);
+    hit = _mm_or_si128(hit, in);
+    return _mm_and_si128(in, _mm_add_epi8(offset, _mm_set1_epi8(value)));
 }
+
+// Upper case as lower case; other characters stay out of "a"-"z".
+TOVU_TARGET_SSSE3 inline __m128i foldCase(__m128i c) { return _mm_or_si128(c, _mm_set1_epi8(0x20)); }
 
 TOVU_TARGET_SSSE3 inline bool allSet(__m128i mask) { return _mm_movemask_epi8(mask) == 0xFFFF; }
 
@@ -48,13 +55,9 @@ TOVU_TARGET_SSSE3 std::size_t base16Encode(unsigned char* out, unsigned char con
 // clears `valid` unless all are hex digits.
 TOVU_TARGET_SSSE3 inline __m128i hexPairs(__m128i c, bool& valid)
 {
-    __m128i const digit = _mm_sub_epi8(c, _mm_set1_epi8('0'));
-    __m128i const letter = _mm_sub_epi8(_mm_or_si128(c, _mm_set1_epi8(0x20)), _mm_set1_epi8('a'));
-    __m128i const isDigit = within(digit, 9);
-    __m128i const isLetter = within(letter, 5);
-    valid = valid && allSet(_mm_or_si128(isDigit, isLetter));
-    __m128i const value = _mm_or_si128(_mm_and_si128(isDigit, digit),
-                                       _mm_and_si128(isLetter, _mm_add_epi8(letter, _mm_set1_epi8(10))));
+    __m128i hit = _mm_setzero_si128();
+    __m128i const value = _mm_or_si128(rangeValue(c, '0', 10, 0, hit), rangeValue(foldCase(c), 'a', 6, 10, hit));
+    valid = valid && allSet(hit);
     return _mm_maddubs_epi16(value, _mm_set1_epi16(0x0110));
 }
 
@@ -113,13 +116,9 @@ TOVU_TARGET_SSSE3 std::size_t base32Encode(unsigned char* out, unsigned char con
 // 16 characters are in the alphabet (a pad is not).
 TOVU_TARGET_SSSE3 inline __m128i base32Bytes(__m128i c, bool& valid)
 {
-    __m128i const letter = _mm_sub_epi8(_mm_or_si128(c, _mm_set1_epi8(0x20)), _mm_set1_epi8('a'));
-    __m128i const digit = _mm_sub_epi8(c, _mm_set1_epi8('2'));
-    __m128i const isLetter = within(letter, 25);
-    __m128i const isDigit = within(digit, 5);
-    valid = valid && allSet(_mm_or_si128(isLetter, isDigit));
-    __m128i const value = _mm_or_si128(_mm_and_si128(isLetter, letter),
-                                       _mm_and_si128(isDigit, _mm_add_epi8(digit, _mm_set1_epi8(26))));
+    __m128i hit = _mm_setzero_si128();
+    __m128i const value = _mm_or_si128(rangeValue(foldCase(c), 'a', 26, 0, hit), rangeValue(c, '2', 6, 26, hit));
+    valid = valid && allSet(hit);
     // 10-bit pairs, then 20-bit halves of each block, then its 40 bits.
     __m128i const pairs = _mm_maddubs_epi16(value, _mm_set1_epi16(0x0120));
     __m128i const halves = _mm_madd_epi16(pairs, _mm_set1_epi32(0x00010400));

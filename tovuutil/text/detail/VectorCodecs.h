@@ -3,6 +3,8 @@
 
 #include <cstddef>
 
+#include "tovuutil/text/detail/CodecTables.h"
+
 namespace tovu {
 namespace detail {
 
@@ -48,14 +50,35 @@ unsigned long base32Decode(VectorCodecs const* vector, void* dst, void const* sr
 unsigned long base64Encode(VectorCodecs const* vector, void* dst, void const* src, unsigned long n);
 unsigned long base64Decode(VectorCodecs const* vector, void* dst, void const* src, unsigned long n);
 
-// A decoder's blocks, the kernel's and the scalar code's in turn: after the
+// An encoder: the kernel (if any) on whole blocks of `bytes`, then
+// `scalar(out, in, n)` on the rest, the last block padded.
+template <class Scalar>
+unsigned long encodeInTurns(VectorCodecs::Kernel kernel, Scalar scalar, void* dst, void const* src, unsigned long n,
+                            std::size_t bytes, std::size_t characters)
+{
+    requireBuffers(dst, src);
+    auto const* in = static_cast<unsigned char const*>(src);
+    auto* out = static_cast<unsigned char*>(dst);
+    std::size_t const done = kernel ? kernel(out, in, n / bytes) : 0;
+    scalar(out + characters * done, in + bytes * done, static_cast<unsigned long>(n - bytes * done));
+    return static_cast<unsigned long>((n / bytes + (n % bytes != 0)) * characters);
+}
+
+// A decoder: the kernel's blocks and the scalar code's in turn. After the
 // kernel stops early, the scalar code takes 64 characters' worth of blocks (at
 // least the kernel's largest chunk) before the kernel goes on. `scalar(out,
 // in, blocks)` returns the bytes it wrote. Returns the bytes written.
 template <class Scalar>
-unsigned long decodeInTurns(VectorCodecs::Kernel kernel, Scalar scalar, unsigned char* out, unsigned char const* in,
-                            std::size_t blocks, std::size_t characters, std::size_t bytes)
+unsigned long decodeInTurns(VectorCodecs::Kernel kernel, Scalar scalar, void* dst, void const* src, unsigned long n,
+                            std::size_t characters, std::size_t bytes)
 {
+    requireBuffers(dst, src);
+    requireMultiple(n, characters);
+    auto const* in = static_cast<unsigned char const*>(src);
+    auto* out = static_cast<unsigned char*>(dst);
+    std::size_t const blocks = n / characters;
+    if (kernel == nullptr)
+        return scalar(out, in, static_cast<unsigned long>(blocks));
     std::size_t const run = 64 / characters;
     std::size_t block = 0;
     unsigned long written = 0;
@@ -64,7 +87,7 @@ unsigned long decodeInTurns(VectorCodecs::Kernel kernel, Scalar scalar, unsigned
         block += fast;
         written += static_cast<unsigned long>(bytes * fast);
         std::size_t const slow = blocks - block < run ? blocks - block : run;
-        written += scalar(out + written, in + characters * block, slow);
+        written += scalar(out + written, in + characters * block, static_cast<unsigned long>(slow));
         block += slow;
     }
     return written;
