@@ -1,8 +1,7 @@
-#include "tovuutil/text/BaseCodec.h"
-
 #include <cstring>
 
 #include "tovuutil/text/detail/CodecTables.h"
+#include "tovuutil/text/detail/VectorCodecs.h"
 
 namespace {
 
@@ -40,39 +39,15 @@ constexpr Tables makeTables()
 
 constexpr Tables kTables = makeTables();
 
-} // namespace
-
-namespace BaseEncode {
-
-unsigned long Base16EncodeGetLength(unsigned long n) { return 2 * n; }
-
-unsigned long Base16Encode(void* dst, void const* src, unsigned long n)
+void encodeScalar(unsigned char* out, unsigned char const* in, unsigned long n)
 {
-    tovu::detail::requireBuffers(dst, src);
-    auto const* in = static_cast<unsigned char const*>(src);
-    char* out = static_cast<char*>(dst);
     for (unsigned long i = 0; i < n; ++i)
         std::memcpy(out + 2 * i, kEncode.pair[in[i]], 2);
-    return 2 * n;
 }
 
-} // namespace BaseEncode
-
-namespace BaseDecode {
-
-unsigned long Base16DecodeGetLength(unsigned long n)
+// Decodes whole blocks (one byte each); returns the bytes written.
+unsigned long decodeScalar(unsigned char* out, unsigned char const* in, unsigned long bytes)
 {
-    tovu::detail::requireMultiple(n, 2);
-    return n / 2;
-}
-
-unsigned long Base16Decode(void* dst, void const* src, unsigned long n)
-{
-    tovu::detail::requireBuffers(dst, src);
-    tovu::detail::requireMultiple(n, 2);
-    auto const* in = static_cast<unsigned char const*>(src);
-    auto* out = static_cast<unsigned char*>(dst);
-    unsigned long const bytes = n / 2;
     unsigned long i = 0;
     // Eight bytes a round, gathered in a word and stored at once.
     for (; i + 8 <= bytes; i += 8) {
@@ -88,4 +63,20 @@ unsigned long Base16Decode(void* dst, void const* src, unsigned long n)
     return bytes;
 }
 
-} // namespace BaseDecode
+} // namespace
+
+namespace tovu {
+namespace detail {
+
+unsigned long base16Encode(VectorCodecs const* vector, void* dst, void const* src, unsigned long n)
+{
+    return encodeInTurns(vector ? vector->base16Encode : nullptr, encodeScalar, dst, src, n, 1, 2);
+}
+
+unsigned long base16Decode(VectorCodecs const* vector, void* dst, void const* src, unsigned long n)
+{
+    return decodeInTurns(vector ? vector->base16Decode : nullptr, decodeScalar, dst, src, n, 2, 1);
+}
+
+} // namespace detail
+} // namespace tovu

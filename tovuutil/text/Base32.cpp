@@ -1,8 +1,7 @@
-#include "tovuutil/text/BaseCodec.h"
-
 #include <cstring>
 
 #include "tovuutil/text/detail/CodecTables.h"
+#include "tovuutil/text/detail/VectorCodecs.h"
 
 namespace {
 
@@ -60,17 +59,28 @@ constexpr auto kEncode = tovu::detail::makePairTable<5>(kAlphabet);
 // Characters of a block's last group for 1 to 4 trailing bytes, and its pads.
 constexpr unsigned kCharsFor[5] = {0, 2, 4, 5, 7};
 
-} // namespace
-
-namespace BaseEncode {
-
-unsigned long Base32EncodeGetLength(unsigned long n) { return (n / 5 + (n % 5 != 0)) * 8; }
-
-unsigned long Base32Encode(void* dst, void const* src, unsigned long n)
+std::uint64_t decodeBlock(unsigned char const* p)
 {
-    tovu::detail::requireBuffers(dst, src);
-    auto const* in = static_cast<unsigned char const*>(src);
-    char* out = static_cast<char*>(dst);
+    return kDecode.share[0][p[0]] | kDecode.share[1][p[1]] | kDecode.share[2][p[2]] | kDecode.share[3][p[3]] |
+           kDecode.share[4][p[4]] | kDecode.share[5][p[5]] | kDecode.share[6][p[6]] | kDecode.share[7][p[7]];
+}
+
+// A block's trailing pads, read from the back (8th, 7th, 5th, 3rd character),
+// each standing for one byte less.
+unsigned long bytesOfBlock(unsigned char const* block)
+{
+    unsigned long bytes = 5;
+    for (int position : {7, 6, 4, 2}) {
+        if (block[position] != '=')
+            break;
+        --bytes;
+    }
+    return bytes;
+}
+
+// Encodes n bytes, the last block padded.
+void encodeScalar(unsigned char* out, unsigned char const* in, unsigned long n)
+{
     unsigned long const whole = n - n % 5;
     for (unsigned long i = 0; i < whole; i += 5, out += 8) {
         std::uint64_t const word = (std::uint64_t(in[i]) << 32) | (std::uint64_t(in[i + 1]) << 24) |
@@ -87,46 +97,11 @@ unsigned long Base32Encode(void* dst, void const* src, unsigned long n)
         for (unsigned k = 0; k < 8; ++k)
             out[k] = k < kCharsFor[take] ? kAlphabet[(word >> (35 - 5 * k)) & 31] : '=';
     }
-    return Base32EncodeGetLength(n);
 }
 
-} // namespace BaseEncode
-
-namespace BaseDecode {
-
-namespace {
-// A block's trailing pads, read from the back (8th, 7th, 5th, 3rd character),
-// each standing for one byte less.
-unsigned long bytesOfBlock(unsigned char const* block)
+// Decodes whole blocks; returns the bytes written.
+unsigned long decodeScalar(unsigned char* out, unsigned char const* in, unsigned long blocks)
 {
-    unsigned long bytes = 5;
-    for (int position : {7, 6, 4, 2}) {
-        if (block[position] != '=')
-            break;
-        --bytes;
-    }
-    return bytes;
-}
-} // namespace
-
-unsigned long Base32DecodeGetLength(unsigned long n)
-{
-    tovu::detail::requireMultiple(n, 8);
-    return n / 8 * 5;
-}
-
-unsigned long Base32Decode(void* dst, void const* src, unsigned long n)
-{
-    tovu::detail::requireBuffers(dst, src);
-    tovu::detail::requireMultiple(n, 8);
-    auto const* in = static_cast<unsigned char const*>(src);
-    auto* out = static_cast<unsigned char*>(dst);
-    unsigned long const blocks = n / 8;
-    auto decodeBlock = [](unsigned char const* p) {
-        return kDecode.share[0][p[0]] | kDecode.share[1][p[1]] | kDecode.share[2][p[2]] | kDecode.share[3][p[3]] |
-               kDecode.share[4][p[4]] | kDecode.share[5][p[5]] | kDecode.share[6][p[6]] | kDecode.share[7][p[7]];
-    };
-
     // Fast path: every block but the last, as long as none ends in a pad.
     // Each stores eight bytes; the three beyond its five are overwritten by
     // the next block.
@@ -155,4 +130,20 @@ unsigned long Base32Decode(void* dst, void const* src, unsigned long n)
     return written;
 }
 
-} // namespace BaseDecode
+} // namespace
+
+namespace tovu {
+namespace detail {
+
+unsigned long base32Encode(VectorCodecs const* vector, void* dst, void const* src, unsigned long n)
+{
+    return encodeInTurns(vector ? vector->base32Encode : nullptr, encodeScalar, dst, src, n, 5, 8);
+}
+
+unsigned long base32Decode(VectorCodecs const* vector, void* dst, void const* src, unsigned long n)
+{
+    return decodeInTurns(vector ? vector->base32Decode : nullptr, decodeScalar, dst, src, n, 8, 5);
+}
+
+} // namespace detail
+} // namespace tovu

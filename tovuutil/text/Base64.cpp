@@ -1,8 +1,7 @@
-#include "tovuutil/text/BaseCodec.h"
-
 #include <cstring>
 
 #include "tovuutil/text/detail/CodecTables.h"
+#include "tovuutil/text/detail/VectorCodecs.h"
 
 namespace {
 
@@ -62,17 +61,9 @@ std::uint32_t decodeBlock(unsigned char const* p)
 // Two characters per 12 bits of input: one table look-up per half block.
 constexpr auto kEncode = tovu::detail::makePairTable<6>(kAlphabet);
 
-} // namespace
-
-namespace BaseEncode {
-
-unsigned long Base64EncodeGetLength(unsigned long n) { return (n / 3 + (n % 3 != 0)) * 4; }
-
-unsigned long Base64Encode(void* dst, void const* src, unsigned long n)
+// Encodes n bytes, the last block padded.
+void encodeScalar(unsigned char* out, unsigned char const* in, unsigned long n)
 {
-    tovu::detail::requireBuffers(dst, src);
-    auto const* in = static_cast<unsigned char const*>(src);
-    char* out = static_cast<char*>(dst);
     unsigned long const whole = n - n % 3;
     for (unsigned long i = 0; i < whole; i += 3, out += 4) {
         std::uint32_t const word = (std::uint32_t(in[i]) << 16) | (std::uint32_t(in[i + 1]) << 8) | in[i + 2];
@@ -92,27 +83,11 @@ unsigned long Base64Encode(void* dst, void const* src, unsigned long n)
         out[2] = kAlphabet[(b & 15) << 2];
         out[3] = '=';
     }
-    return Base64EncodeGetLength(n);
 }
 
-} // namespace BaseEncode
-
-namespace BaseDecode {
-
-unsigned long Base64DecodeGetLength(unsigned long n)
+// Decodes whole blocks; returns the bytes written.
+unsigned long decodeScalar(unsigned char* out, unsigned char const* in, unsigned long blocks)
 {
-    tovu::detail::requireMultiple(n, 4);
-    return n / 4 * 3;
-}
-
-unsigned long Base64Decode(void* dst, void const* src, unsigned long n)
-{
-    tovu::detail::requireBuffers(dst, src);
-    tovu::detail::requireMultiple(n, 4);
-    auto const* in = static_cast<unsigned char const*>(src);
-    auto* out = static_cast<unsigned char*>(dst);
-    unsigned long const blocks = n / 4;
-
     // Fast path: every block but the last, as long as none ends in a pad. Each
     // stores four bytes; the fourth is overwritten by the next block.
     unsigned long block = 0;
@@ -153,4 +128,20 @@ unsigned long Base64Decode(void* dst, void const* src, unsigned long n)
     return written;
 }
 
-} // namespace BaseDecode
+} // namespace
+
+namespace tovu {
+namespace detail {
+
+unsigned long base64Encode(VectorCodecs const* vector, void* dst, void const* src, unsigned long n)
+{
+    return encodeInTurns(vector ? vector->base64Encode : nullptr, encodeScalar, dst, src, n, 3, 4);
+}
+
+unsigned long base64Decode(VectorCodecs const* vector, void* dst, void const* src, unsigned long n)
+{
+    return decodeInTurns(vector ? vector->base64Decode : nullptr, decodeScalar, dst, src, n, 4, 3);
+}
+
+} // namespace detail
+} // namespace tovu
