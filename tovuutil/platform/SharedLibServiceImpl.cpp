@@ -1,6 +1,8 @@
 #include "tovuutil/platform/SharedLibServiceImpl.h"
 
 #include "tovuutil/framework/Logger.h"
+#include "tovuutil/framework/detail/CachedResource.h"
+#include "tovuutil/framework/detail/ServiceTable.h"
 
 SharedLibServiceImpl::SharedLibServiceImpl() : logger_(Logger::getInstance("tovuutil.SharedLibServiceImpl"))
 {
@@ -16,14 +18,17 @@ SharedLibServiceImpl::~SharedLibServiceImpl()
 
 std::string SharedLibServiceImpl::loadSharedLib(std::string const& name)
 {
-    Resource* library = libraries_.getResource(name);
-    return library ? library->getName() : std::string();
+    tovu::detail::LockedResource<SharedLib> const library(libraries_.acquireResource(name));
+    return library.get() ? library.get()->getName() : std::string();
 }
 
 bool SharedLibServiceImpl::unloadSharedLib(std::string const& name) { return libraries_.removeResource(name); }
 
 void* SharedLibServiceImpl::getSymbol(std::string const& library, std::string const& symbol)
 {
-    auto* loaded = static_cast<SharedLib*>(libraries_.getResource(library));
-    return loaded ? loaded->getSymbol(symbol) : nullptr;
+    // Held locked, so a concurrent unload waits until the look-up is done.
+    tovu::detail::LockedResource<SharedLib> const loaded(libraries_.acquireResource(library));
+    return loaded.get() ? loaded.get()->getSymbol(symbol) : nullptr;
 }
+
+tovu::detail::CreatedService tovu::detail::createSharedLibService() { return makeService<SharedLibServiceImpl>(); }
