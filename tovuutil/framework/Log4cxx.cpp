@@ -230,6 +230,10 @@ void Log4cxx::tovuLog(std::string const& message, short level, std::string const
     log4cpp::Category& category = tovuLogCategory();
     if (!category.isPriorityEnabled(log4cpp::Priority::DEBUG))
         return;
+    if (level == 99 && text.empty() && returnCode == 99) {
+        category.debug(message); // nothing to add: no copy
+        return;
+    }
     std::string line = message;
     if (level != 99) {
         line += "     ";
