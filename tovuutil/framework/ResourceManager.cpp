@@ -170,6 +170,8 @@ bool ResourceManager::removeResource(std::string const& name)
                 if (share)
                     inUse = std::unique_lock<std::mutex>(share->lock);
                 unload(key);
+                if (share)
+                    share->removed = true;
             }
             if (debug)
                 logger->debug(withKey("Ressource '%1' wurde entladen.", key));

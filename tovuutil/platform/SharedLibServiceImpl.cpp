@@ -26,9 +26,17 @@ bool SharedLibServiceImpl::unloadSharedLib(std::string const& name) { return lib
 
 void* SharedLibServiceImpl::getSymbol(std::string const& library, std::string const& symbol)
 {
-    // Held locked, so a concurrent unload waits until the look-up is done.
-    tovu::detail::LockedResource<SharedLib> const loaded(libraries_.acquireResource(library));
-    return loaded.get() ? loaded.get()->getSymbol(symbol) : nullptr;
+    // Held locked, so a concurrent unload waits until the look-up is done. A
+    // library unloaded by another thread just before is loaded again (a few
+    // times at most, should others keep unloading it).
+    constexpr int kAttempts = 4;
+    for (int attempt = 1;; ++attempt) {
+        tovu::detail::LockedResource<SharedLib> const loaded(libraries_.acquireResource(library));
+        if (loaded.get() == nullptr)
+            return nullptr;
+        if (!loaded.removed() || attempt == kAttempts)
+            return loaded.get()->getSymbol(symbol);
+    }
 }
 
 tovu::detail::CreatedService tovu::detail::createSharedLibService() { return makeService<SharedLibServiceImpl>(); }

@@ -17,6 +17,8 @@ struct CachedResource {
     explicit CachedResource(Resource* resource) : object(resource) {}
     std::unique_ptr<Resource> object;
     std::mutex lock;
+    // Set, under lock, once the cache has unloaded and dropped the object.
+    bool removed = false;
 };
 
 // A share with its lock held, for one operation.
@@ -30,6 +32,8 @@ public:
     }
     // The caches hold one kind of object each.
     T* get() const { return share_ ? static_cast<T*>(share_->object.get()) : nullptr; }
+    // Whether the object was removed from the cache before the lock was had.
+    bool removed() const { return share_ && share_->removed; }
 
 private:
     std::shared_ptr<CachedResource> share_;
