@@ -2,8 +2,8 @@
 // Pairs run interleaved (random interleaving, several repetitions), so their
 // ratio holds on a noisy machine:
 //   - a disabled DEBUG call: Logger::debug against
-//     log4cpp::Category::getInstance(name).debug(msg) (both resolve the
-//     category by name);
+//     log4cpp::Category::getInstance(name).debug(msg) (a look-up by name per
+//     call) and against debug() on a Category& kept by the caller;
 //   - an enabled line into the rolling "tovu.log": Logger::tovuLog against
 //     log4cpp's "tovuLog" category.
 #include <benchmark/benchmark.h>
@@ -33,6 +33,14 @@ void BM_DisabledDebug_Log4cpp(benchmark::State& state)
         log4cpp::Category::getInstance(kCategory).debug(kMessage);
 }
 
+void BM_DisabledDebug_CachedLog4cpp(benchmark::State& state)
+{
+    Logger::getInstance(kCategory);
+    log4cpp::Category& category = log4cpp::Category::getInstance(kCategory);
+    for (auto _ : state)
+        category.debug(kMessage);
+}
+
 void BM_LogFileLine_Facade(benchmark::State& state)
 {
     Logger* logger = Logger::getInstance(kCategory);
@@ -53,6 +61,7 @@ void BM_LogFileLine_Log4cpp(benchmark::State& state)
 
 BENCHMARK(BM_DisabledDebug_Facade)->Repetitions(5)->ReportAggregatesOnly(true);
 BENCHMARK(BM_DisabledDebug_Log4cpp)->Repetitions(5)->ReportAggregatesOnly(true);
+BENCHMARK(BM_DisabledDebug_CachedLog4cpp)->Repetitions(5)->ReportAggregatesOnly(true);
 BENCHMARK(BM_LogFileLine_Facade)->Repetitions(5)->ReportAggregatesOnly(true);
 BENCHMARK(BM_LogFileLine_Log4cpp)->Repetitions(5)->ReportAggregatesOnly(true);
 

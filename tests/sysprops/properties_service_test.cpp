@@ -223,3 +223,27 @@ TEST_F(PropertiesServiceTest, DestroyingAManagerUnloadsEveryFileInKeyOrder)
     EXPECT_EQ("[S]\r\nk=1\r\n", readFile(inHome("b.ini")));
     EXPECT_EQ("1", s->getProperty("b.ini", "S.k"));
 }
+
+TEST_F(PropertiesServiceTest, BareNamesFollowTheIniHomeAndStillLogWhenAsked)
+{
+    PropertiesService* s = service();
+    writeFile(inHome("a.ini"), "[S]\r\nk=eins\r\n");
+    EXPECT_EQ("eins", s->getProperty("a.ini", "S.k"));
+    EXPECT_EQ("eins", s->getProperty("a.ini", "S.k"));
+
+    TempDir other;
+    writeFile(other.path() + "/a.ini", "[S]\r\nk=zwei\r\n");
+    ASSERT_EQ(0, setSystemPropertyIniHome(other.path()));
+    EXPECT_EQ("zwei", s->getProperty("a.ini", "S.k"));
+
+    // With DEBUG on, the key is worked out (and logged) on every call again.
+    log4cpp::Category::getInstance("tovuutil.PropertiesFileResourceManager").setPriority(log4cpp::Priority::DEBUG);
+    CapturedLog log("tovuutil.PropertiesFileResourceManager");
+    EXPECT_EQ("zwei", s->getProperty("a.ini", "S.k"));
+    std::string const key = other.path() + "/a.ini";
+    EXPECT_EQ((std::vector<std::string>{"Begin Method: tovuutil.PropertiesFileResourceManager::getFileName(a.ini)",
+                                        "getFileName result:" + key,
+                                        "End Method  : tovuutil.PropertiesFileResourceManager::getFileName(a.ini)"}),
+              log.lines());
+    ASSERT_EQ(0, setSystemPropertyIniHome(home()));
+}

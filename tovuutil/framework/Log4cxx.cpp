@@ -1,6 +1,8 @@
 #include "tovuutil/framework/Log4cxx.h"
 
+#include <atomic>
 #include <iostream>
+#include <mutex>
 
 #include <log4cpp/Category.hh>
 #include <log4cpp/OstreamAppender.hh>
@@ -11,6 +13,7 @@
 #include "tovuutil/files/FileOperation.h"
 #include "tovuutil/files/PathUtil.h"
 #include "tovuutil/framework/detail/Constants.h"
+#include "tovuutil/framework/detail/LoggingSetup.h"
 
 namespace log4cxx {
 
@@ -69,29 +72,49 @@ void configure(std::string directory)
     tovuLog.addAppender(file);
 }
 
+// Serialises building the set-up and relocating it; never destroyed.
+std::mutex& setupMutex()
+{
+    static std::mutex* mutex = new std::mutex;
+    return *mutex;
+}
+
+// Set (with release) after the first set-up, so a thread that sees it also
+// sees the public flag's write and the set-up itself.
+std::atomic<bool> setupDone{false};
+
 void ensureConfigured()
 {
+    // The public flag is still honoured: a host that clears it gets a new set-up.
+    if (setupDone.load(std::memory_order_acquire) && Log4cxx::isLog4cppInitialized)
+        return;
+    std::lock_guard<std::mutex> lock(setupMutex());
     if (!Log4cxx::isLog4cppInitialized) {
         configure(std::string());
         Log4cxx::isLog4cppInitialized = true;
     }
+    setupDone.store(true, std::memory_order_release);
 }
 
-bool enabled(std::string const& name, log4cpp::Priority::Value priority)
+log4cpp::Category& tovuLogCategory()
 {
-    return log4cpp::Category::getInstance(name).isPriorityEnabled(priority);
+    static log4cpp::Category& category = log4cpp::Category::getInstance(kTovuLogCategory);
+    return category;
 }
 
-void logAt(std::string const& name, log4cpp::Priority::Value priority, std::string const& message)
+void logAt(log4cpp::Category& category, log4cpp::Priority::Value priority, std::string const& message)
 {
-    log4cpp::Category& category = log4cpp::Category::getInstance(name);
     if (category.isPriorityEnabled(priority))
         category.log(priority, message);
 }
 
 } // namespace
 
-Log4cxx::Log4cxx(std::string const& name) : name_(name) { ensureConfigured(); }
+Log4cxx::Log4cxx(std::string const& name) : name_(name), category_(nullptr)
+{
+    ensureConfigured();
+    category_ = &log4cpp::Category::getInstance(name_);
+}
 
 Log4cxx::~Log4cxx() = default;
 
@@ -110,8 +133,14 @@ void Log4cxx::relocateLog(std::string const& configFile, std::string const& oldD
     (void)configFile;
     if (oldDir == newDir)
         return;
-    configure(newDir);
-    isLog4cppInitialized = true;
+    {
+        std::lock_guard<std::mutex> lock(setupMutex());
+        configure(newDir);
+        if (!isLog4cppInitialized)
+            isLog4cppInitialized = true;
+        setupDone.store(true, std::memory_order_release);
+    }
+    // Outside the lock: deleting may log through a logger of its own.
     if (!oldDir.empty()) {
         std::string oldLog = getFullFilename(oldDir, kLogFileName);
         if (fileExists(oldLog))
@@ -119,7 +148,11 @@ void Log4cxx::relocateLog(std::string const& configFile, std::string const& oldD
     }
 }
 
-std::string Log4cxx::getLogDirectory() { return logDirectory(); }
+std::string Log4cxx::getLogDirectory()
+{
+    std::lock_guard<std::mutex> lock(setupMutex());
+    return logDirectory();
+}
 
 std::string Log4cxx::getName() const { return name_; }
 
@@ -149,26 +182,26 @@ void Log4cxx::setLayout(std::string const& appender, std::string const& pattern)
     found->setLayout(layout);
 }
 
-bool Log4cxx::isDebugEnabled() const { return enabled(name_, log4cpp::Priority::DEBUG); }
-bool Log4cxx::isInfoEnabled() const { return enabled(name_, log4cpp::Priority::INFO); }
-bool Log4cxx::isNoticeEnabled() const { return enabled(name_, log4cpp::Priority::NOTICE); }
-bool Log4cxx::isWarnEnabled() const { return enabled(name_, log4cpp::Priority::WARN); }
-bool Log4cxx::isErrorEnabled() const { return enabled(name_, log4cpp::Priority::ERROR); }
-bool Log4cxx::isFatalEnabled() const { return enabled(name_, log4cpp::Priority::FATAL); }
+bool Log4cxx::isDebugEnabled() const { return category_->isPriorityEnabled(log4cpp::Priority::DEBUG); }
+bool Log4cxx::isInfoEnabled() const { return category_->isPriorityEnabled(log4cpp::Priority::INFO); }
+bool Log4cxx::isNoticeEnabled() const { return category_->isPriorityEnabled(log4cpp::Priority::NOTICE); }
+bool Log4cxx::isWarnEnabled() const { return category_->isPriorityEnabled(log4cpp::Priority::WARN); }
+bool Log4cxx::isErrorEnabled() const { return category_->isPriorityEnabled(log4cpp::Priority::ERROR); }
+bool Log4cxx::isFatalEnabled() const { return category_->isPriorityEnabled(log4cpp::Priority::FATAL); }
 
 // log4cpp writes each event through at once; the per-priority stream that
 // could be flushed afterwards is always empty here, so no flush is needed.
-void Log4cxx::debug(std::string const& message) { logAt(name_, log4cpp::Priority::DEBUG, message); }
-void Log4cxx::info(std::string const& message) { logAt(name_, log4cpp::Priority::INFO, message); }
-void Log4cxx::notice(std::string const& message) { logAt(name_, log4cpp::Priority::NOTICE, message); }
-void Log4cxx::warn(std::string const& message) { logAt(name_, log4cpp::Priority::WARN, message); }
-void Log4cxx::fatal(std::string const& message) { logAt(name_, log4cpp::Priority::FATAL, message); }
+void Log4cxx::debug(std::string const& message) { logAt(*category_, log4cpp::Priority::DEBUG, message); }
+void Log4cxx::info(std::string const& message) { logAt(*category_, log4cpp::Priority::INFO, message); }
+void Log4cxx::notice(std::string const& message) { logAt(*category_, log4cpp::Priority::NOTICE, message); }
+void Log4cxx::warn(std::string const& message) { logAt(*category_, log4cpp::Priority::WARN, message); }
+void Log4cxx::fatal(std::string const& message) { logAt(*category_, log4cpp::Priority::FATAL, message); }
 
 void Log4cxx::error(std::string const& message)
 {
     if (!isErrorEnabled())
         return;
-    log4cpp::Category::getInstance(name_).error(message);
+    category_->error(message);
     tovuLog(message, 99, std::string(), 99);
 }
 
@@ -194,9 +227,13 @@ void Log4cxx::endDestruct(std::string const& method) { marker(this, "End Destruc
 
 void Log4cxx::tovuLog(std::string const& message, short level, std::string const& text, int returnCode)
 {
-    log4cpp::Category& category = log4cpp::Category::getInstance(kTovuLogCategory);
+    log4cpp::Category& category = tovuLogCategory();
     if (!category.isPriorityEnabled(log4cpp::Priority::DEBUG))
         return;
+    if (level == 99 && text.empty() && returnCode == 99) {
+        category.debug(message); // nothing to add: no copy
+        return;
+    }
     std::string line = message;
     if (level != 99) {
         line += "     ";
@@ -225,3 +262,5 @@ void Log4cxx::doLogMe(std::string const& message, short level, std::string const
 }
 
 } // namespace log4cxx
+
+void tovu::detail::ensureLoggingConfigured() { log4cxx::ensureConfigured(); }

@@ -15,7 +15,9 @@ namespace log4cxx {
 // Log4cxx
 //
 // The logging facade over log4cpp. An object names one category and resolves
-// it by that name on every call. The first object (or getLog4cxx call) builds
+// it once, at construction: log4cpp keeps every category for the life of the
+// process (a new set-up only replaces appenders), so the object behaves as if
+// it resolved the name on every call. The first object (or getLog4cxx call) builds
 // the default set-up:
 //   - root category at INFO with the console appender "CONSOLE" ("%m%n");
 //   - category "tovuLog" at DEBUG with the rolling file appender "TOVULOG"
@@ -23,6 +25,10 @@ namespace log4cxx {
 //     1,000,000 bytes, ten backups).
 // error() also copies its message at DEBUG into "tovuLog", so every error
 // lands in the log file.
+//
+// Threads: objects may log from any thread. Building the set-up and
+// relocateLog are serialised on one lock, which is taken before any of
+// log4cpp's own and never while a logger of this library is being created.
 class TOVU_API Log4cxx {
 public:
     explicit Log4cxx(std::string const& name);
@@ -89,6 +95,7 @@ public:
 
 private:
     std::string name_;
+    log4cpp::Category* category_;
 };
 
 } // namespace log4cxx

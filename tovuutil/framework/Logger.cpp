@@ -1,6 +1,7 @@
 #include "tovuutil/framework/Logger.h"
 
 #include "tovuutil/framework/ObjectLifetimeManager.h"
+#include "tovuutil/framework/detail/LoggingSetup.h"
 
 Logger::Logger(std::string const& name) : log4cxx::Log4cxx(name) {}
 
@@ -15,9 +16,12 @@ Logger* Logger::getInstance(std::string const& name)
     ObjectLifetimeManager* manager = ObjectLifetimeManager::instance();
     if (Logger* existing = manager->getLogger(name))
         return existing;
-    Logger* logger = new Logger(name);
-    manager->addLogger(name, logger);
-    if (logger->isDebugEnabled())
+    // Configured before the registry is locked, so the set-up never runs under it.
+    tovu::detail::ensureLoggingConfigured();
+    bool created = false;
+    Logger* logger = ObjectLifetimeManager::getOrAddLogger(
+        name, [](std::string const& n) { return new Logger(n); }, created);
+    if (created && logger->isDebugEnabled())
         logger->debug("Logger '" + name + "' initialisiert.");
     return logger;
 }

@@ -1,16 +1,14 @@
 #include "tovuutil/framework/ObjectLifetimeManager.h"
 
-#include <new>
+#include <mutex>
+#include <shared_mutex>
 
 #include "tovuutil/framework/Logger.h"
-#include "tovuutil/platform/GUIServiceImpl.h"
-#include "tovuutil/platform/SharedLibServiceImpl.h"
-#include "tovuutil/properties/PropertiesServiceImpl.h"
-#include "tovuutil/properties/SystemPropertiesServiceImpl.h"
+#include "tovuutil/framework/detail/ServiceTable.h"
 
 // Plain pointers, zero before any initialiser runs: the manager may be asked
 // for by other static objects whatever their order of construction.
-ObjectLifetimeManager* ObjectLifetimeManager::instance_ = nullptr;
+std::atomic<ObjectLifetimeManager*> ObjectLifetimeManager::instance_{nullptr};
 ObjectLifetimeManager::AdapterMap* ObjectLifetimeManager::managedObjectMap_ = nullptr;
 ObjectLifetimeManager::AdapterList* ObjectLifetimeManager::managedObjectList_ = nullptr;
 ObjectLifetimeManager::AdapterMap* ObjectLifetimeManager::loggerObjectMap_ = nullptr;
@@ -21,22 +19,37 @@ namespace {
 
 enum State { kConstructed = 0, kStartingUp = 1, kRunning = 2, kShuttingDown = 3, kShutDown = 4 };
 
-// Creates a service wrapped in its adapter; a failed allocation leaves the
-// adapter holding null.
-template <class Impl>
-void* createService()
+// The instance once it runs, null while it starts or shuts down: the fast way
+// through instance(). Otherwise callers wait on the creation lock, so a
+// fresh manager is seen only after its services exist.
+std::atomic<ObjectLifetimeManager*> runningInstance{nullptr};
+
+// What getService hands out, beside the adapters that own the services.
+std::atomic<Service*> runningServices[TOVU_PREALLOCATED_OBJECTS];
+
+// Guards the four containers (never held while an object is deleted or a
+// logger logs). Created on first use and never destroyed, like the manager's
+// own containers.
+std::shared_mutex& registryMutex()
 {
-    return new ManagedObject<Impl>(new (std::nothrow) Impl());
+    static std::shared_mutex* mutex = new std::shared_mutex;
+    return *mutex;
 }
 
-template <class Impl>
-void deleteService(void*& slot)
+// Makes creating a fresh manager a single step; recursive because the new
+// manager's start-up asks for instance() again.
+std::recursive_mutex& creationMutex()
 {
-    delete static_cast<ManagedObject<Impl>*>(slot);
-    slot = nullptr;
+    static std::recursive_mutex* mutex = new std::recursive_mutex;
+    return *mutex;
 }
 
 } // namespace
+
+Service* tovu::detail::runningService(Preallocated_Object slot)
+{
+    return runningServices[slot].load(std::memory_order_acquire);
+}
 
 ObjectLifetimeManagerBase::ObjectLifetimeManagerBase() : object_state_(kConstructed), dynamically_allocated_(0) {}
 
@@ -60,6 +73,9 @@ ObjectLifetimeManager::~ObjectLifetimeManager()
 
 ObjectLifetimeManager* ObjectLifetimeManager::instance()
 {
+    if (ObjectLifetimeManager* running = runningInstance.load(std::memory_order_acquire))
+        return running;
+    std::lock_guard<std::recursive_mutex> lock(creationMutex());
     if (instance_ == nullptr) {
         ObjectLifetimeManager* manager = new ObjectLifetimeManager();
         manager->dynamically_allocated_ = 1;
@@ -71,9 +87,17 @@ void ObjectLifetimeManager::init() { instance()->startup(); }
 
 void ObjectLifetimeManager::fini() { instance()->shutdown(); }
 
-int ObjectLifetimeManager::starting_up() { return instance_ == nullptr ? 1 : instance_->starting_up_i(); }
+int ObjectLifetimeManager::starting_up()
+{
+    ObjectLifetimeManager* current = instance_.load(std::memory_order_acquire);
+    return current == nullptr ? 1 : current->starting_up_i();
+}
 
-int ObjectLifetimeManager::shutting_down() { return instance_ == nullptr ? 1 : instance_->shutting_down_i(); }
+int ObjectLifetimeManager::shutting_down()
+{
+    ObjectLifetimeManager* current = instance_.load(std::memory_order_acquire);
+    return current == nullptr ? 1 : current->shutting_down_i();
+}
 
 int ObjectLifetimeManager::startup()
 {
@@ -83,39 +107,54 @@ int ObjectLifetimeManager::startup()
     if (this != instance_)
         return 0;
 
-    // A manager started after an earlier one has ended reuses its emptied containers.
-    if (loggerObjectMap_ == nullptr)
-        loggerObjectMap_ = new AdapterMap;
-    if (loggerObjectList_ == nullptr)
-        loggerObjectList_ = new AdapterList;
-    if (managedObjectMap_ == nullptr)
-        managedObjectMap_ = new AdapterMap;
-    if (managedObjectList_ == nullptr)
-        managedObjectList_ = new AdapterList;
+    {
+        // A manager started after an earlier one has ended reuses its emptied containers.
+        std::unique_lock<std::shared_mutex> lock(registryMutex());
+        if (loggerObjectMap_ == nullptr)
+            loggerObjectMap_ = new AdapterMap;
+        if (loggerObjectList_ == nullptr)
+            loggerObjectList_ = new AdapterList;
+        if (managedObjectMap_ == nullptr)
+            managedObjectMap_ = new AdapterMap;
+        if (managedObjectList_ == nullptr)
+            managedObjectList_ = new AdapterList;
+    }
 
-    preallocated_object[TOVU_SYSTEM_PROPERTIES_SERVICE] = createService<SystemPropertiesServiceImpl>();
-    preallocated_object[TOVU_PROPERTIES_SERVICE] = createService<PropertiesServiceImpl>();
-    preallocated_object[TOVU_SHARED_LIB_SERVICE] = createService<SharedLibServiceImpl>();
-    preallocated_object[TOVU_GUI_SERVICE] = createService<GUIServiceImpl>();
+    for (tovu::detail::ServiceEntry const& entry : tovu::detail::kServiceTable) {
+        tovu::detail::CreatedService created = entry.create();
+        preallocated_object[entry.slot] = created.adapter;
+        runningServices[entry.slot].store(created.service, std::memory_order_release);
+    }
 
     object_state_ = kRunning;
+    runningInstance.store(this, std::memory_order_release);
     return 0;
 }
 
 void ObjectLifetimeManager::cleanupAll(AdapterList* list, AdapterMap* map)
 {
-    if (list != nullptr) {
-        // Taken from the front one at a time, so an object whose destructor
-        // registers another one is still handled.
-        while (!list->empty()) {
-            CleanupAdapter* adapter = list->front();
+    if (list == nullptr || map == nullptr)
+        return;
+    // Taken from the front one at a time, so an object whose destructor
+    // registers another one is still handled. Its map entry goes first, so no
+    // other thread finds an object being deleted; the deletion itself runs
+    // unlocked, as destructors log.
+    for (;;) {
+        CleanupAdapter* adapter = nullptr;
+        {
+            std::unique_lock<std::shared_mutex> lock(registryMutex());
+            if (list->empty()) {
+                map->clear();
+                return;
+            }
+            adapter = list->front();
             list->pop_front();
-            adapter->cleanup();
-            delete adapter;
+            for (auto it = map->begin(); it != map->end();)
+                it = it->second == adapter ? map->erase(it) : std::next(it);
         }
+        adapter->cleanup();
+        delete adapter;
     }
-    if (map != nullptr)
-        map->clear();
 }
 
 int ObjectLifetimeManager::shutdown()
@@ -126,13 +165,16 @@ int ObjectLifetimeManager::shutdown()
 
     bool const wasInstance = (this == instance_);
     if (wasInstance) {
+        runningInstance.store(nullptr, std::memory_order_release);
         // Client objects first: they may still use services and loggers.
         cleanupAll(managedObjectList_, managedObjectMap_);
         // Services in the reverse order of their creation; each may log.
-        deleteService<GUIServiceImpl>(preallocated_object[TOVU_GUI_SERVICE]);
-        deleteService<SharedLibServiceImpl>(preallocated_object[TOVU_SHARED_LIB_SERVICE]);
-        deleteService<PropertiesServiceImpl>(preallocated_object[TOVU_PROPERTIES_SERVICE]);
-        deleteService<SystemPropertiesServiceImpl>(preallocated_object[TOVU_SYSTEM_PROPERTIES_SERVICE]);
+        for (int i = tovu::detail::kServiceCount - 1; i >= 0; --i) {
+            Preallocated_Object const slot = tovu::detail::kServiceTable[i].slot;
+            runningServices[slot].store(nullptr, std::memory_order_release);
+            delete static_cast<CleanupAdapter*>(preallocated_object[slot]);
+            preallocated_object[slot] = nullptr;
+        }
         // Loggers last: everything above may log until here.
         cleanupAll(loggerObjectList_, loggerObjectMap_);
     }
@@ -147,7 +189,9 @@ int ObjectLifetimeManager::shutdown()
 
 void ObjectLifetimeManager::addObject(std::string const& name, ManagedTovuObject* object)
 {
+    std::unique_lock<std::shared_mutex> lock(registryMutex());
     if (managedObjectList_ == nullptr || managedObjectMap_ == nullptr) {
+        lock.unlock();
         // Before start-up there is nowhere to keep it; do not leak it.
         delete object;
         return;
@@ -159,6 +203,7 @@ void ObjectLifetimeManager::addObject(std::string const& name, ManagedTovuObject
 
 ManagedTovuObject* ObjectLifetimeManager::getObject(std::string const& name)
 {
+    std::shared_lock<std::shared_mutex> lock(registryMutex());
     if (managedObjectMap_ == nullptr)
         return nullptr;
     auto it = managedObjectMap_->find(name);
@@ -168,7 +213,9 @@ ManagedTovuObject* ObjectLifetimeManager::getObject(std::string const& name)
 
 void ObjectLifetimeManager::addLogger(std::string const& name, Logger* logger)
 {
+    std::unique_lock<std::shared_mutex> lock(registryMutex());
     if (loggerObjectList_ == nullptr || loggerObjectMap_ == nullptr) {
+        lock.unlock();
         delete logger;
         return;
     }
@@ -179,10 +226,34 @@ void ObjectLifetimeManager::addLogger(std::string const& name, Logger* logger)
 
 Logger* ObjectLifetimeManager::getLogger(std::string const& name, Logger*)
 {
+    std::shared_lock<std::shared_mutex> lock(registryMutex());
     if (loggerObjectMap_ == nullptr)
         return nullptr;
     auto it = loggerObjectMap_->find(name);
     return it == loggerObjectMap_->end() ? nullptr : static_cast<ManagedObject<Logger>*>(it->second)->get();
+}
+
+Logger* ObjectLifetimeManager::getOrAddLogger(std::string const& name, Logger* (*make)(std::string const&),
+                                              bool& created)
+{
+    created = false;
+    std::unique_lock<std::shared_mutex> lock(registryMutex());
+    if (loggerObjectMap_ != nullptr) {
+        auto it = loggerObjectMap_->find(name);
+        if (it != loggerObjectMap_->end())
+            return static_cast<ManagedObject<Logger>*>(it->second)->get();
+    }
+    // Made under the lock so no second one is ever made and dropped; its
+    // constructor only asks log4cpp for the category.
+    Logger* logger = make(name);
+    created = true;
+    if (loggerObjectList_ != nullptr && loggerObjectMap_ != nullptr) {
+        auto* adapter = new ManagedObject<Logger>(logger);
+        loggerObjectList_->push_back(adapter);
+        loggerObjectMap_->emplace(name, adapter);
+    }
+    // Before start-up there is nowhere to keep it: it lives on unregistered.
+    return logger;
 }
 
 void* ObjectLifetimeManager::getPreAllocatedObject(Preallocated_Object which)

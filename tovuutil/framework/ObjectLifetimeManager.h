@@ -1,6 +1,7 @@
 #ifndef TOVUUTIL_FRAMEWORK_OBJECTLIFETIMEMANAGER_H
 #define TOVUUTIL_FRAMEWORK_OBJECTLIFETIMEMANAGER_H
 
+#include <atomic>
 #include <list>
 #include <map>
 #include <string>
@@ -52,6 +53,16 @@ protected:
 // ended; shutdown() 0 done, 1 already shut down, -1 shutdown under way.
 // A name given twice to addObject/addLogger keeps the first object in the map;
 // both objects are owned and deleted at shutdown.
+//
+// Threads: the registries may be used from any number of threads at once.
+// Start-up and shutdown run on one thread (the loader's). A call that comes
+// in while shutdown runs is answered from what is left: getObject/getLogger
+// find what has not been deleted yet, addObject/addLogger register for the
+// rest of the shutdown (deleted with the others), getService gives a service
+// until shutdown deletes it and null after. Pointers obtained before must not
+// be used once shutdown has deleted their objects. After shutdown the next
+// instance() (every Logger::getInstance and getService call makes one) starts
+// a fresh manager with fresh services.
 class TOVU_API ObjectLifetimeManager : public ObjectLifetimeManagerBase {
 public:
     ObjectLifetimeManager();
@@ -79,16 +90,22 @@ public:
     Logger* getLogger(std::string const& name, Logger* unused = nullptr);
 
     // The adapter (a ManagedObject<ServiceImpl>) of a preallocated service, or
-    // null for index 0 or an index outside the array.
+    // null for index 0 or an index outside the array. Read it on the thread
+    // that runs start-up and shutdown; other threads use getService.
     static void* getPreAllocatedObject(Preallocated_Object which);
 
     typedef std::map<std::string, CleanupAdapter*> AdapterMap;
     typedef std::list<CleanupAdapter*> AdapterList;
 
 private:
+    friend class Logger;
+    // The logger registered under the name, or the one make() returns, which
+    // is registered in the same step (so there is one per name whatever the
+    // threads); created tells which.
+    static Logger* getOrAddLogger(std::string const& name, Logger* (*make)(std::string const&), bool& created);
     static void cleanupAll(AdapterList* list, AdapterMap* map);
 
-    static ObjectLifetimeManager* instance_;
+    static std::atomic<ObjectLifetimeManager*> instance_;
     static AdapterMap* managedObjectMap_;
     static AdapterList* managedObjectList_;
     static AdapterMap* loggerObjectMap_;

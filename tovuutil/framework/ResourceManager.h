@@ -1,12 +1,22 @@
 #ifndef TOVUUTIL_FRAMEWORK_RESOURCEMANAGER_H
 #define TOVUUTIL_FRAMEWORK_RESOURCEMANAGER_H
 
+#include <atomic>
 #include <map>
+#include <memory>
+#include <mutex>
 #include <string>
 
 #include <tovuutil/export.h>
 
 class Logger;
+
+namespace tovu {
+namespace detail {
+struct CachedResource;
+class ResourceCache;
+} // namespace detail
+} // namespace tovu
 
 // Resource
 //
@@ -25,6 +35,12 @@ public:
 // A generic cache of named resources. A concrete manager supplies load,
 // unload, the canonical key (getFileName) and its one process-wide map;
 // getResource loads on first request and hands out the cached object after.
+//
+// Threads: every operation locks the process-wide map of its manager class
+// for its whole run (re-entered freely by the same thread, so load, unload
+// and getFileName may call back into the cache). A Resource* from getResource
+// stays valid until the resource is removed; acquireResource gives a share
+// that keeps the object alive across a concurrent removal.
 class TOVU_API ResourceManager {
 public:
     typedef std::map<std::string, Resource*> ResourceMap;
@@ -50,8 +66,22 @@ public:
     bool removeResource(std::string const& name);
     void logResources();
 
+    // getResource, plus a share in the object (null when getResource gives null).
+    std::shared_ptr<tovu::detail::CachedResource> acquireResource(std::string const& name);
+
 protected:
+    // Holds the map of this manager class against other threads.
+    std::unique_lock<std::recursive_mutex> lockCache();
+    // Destroys an object just taken out of the map, or drops the cache's share
+    // in it when users still hold one.
+    void releaseResource(Resource* resource);
+
     Logger* logger;
+
+private:
+    tovu::detail::ResourceCache& cache();
+
+    std::atomic<tovu::detail::ResourceCache*> cache_{nullptr};
 };
 
 #endif

@@ -11,6 +11,10 @@
 //   0 SystemPropertiesService, 1 PropertiesService, 2 SharedLibService,
 //   3 GUIService; any other number gives null and an error line.
 // Types 1 to 3 log "Erzeuge Service: <name>" at DEBUG; type 0 logs nothing.
+// Any thread may call it. While the lifetime manager shuts down a service is
+// handed out until its turn to be deleted comes, null after that; once
+// shutdown is over the next call starts a fresh manager and gets its
+// services (see ObjectLifetimeManager.h).
 //
 // Example:
 //   auto* sys = static_cast<SystemPropertiesService*>(UtilServiceFactory::getService(0));

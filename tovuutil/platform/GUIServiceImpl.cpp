@@ -1,6 +1,7 @@
 #include "tovuutil/platform/GUIServiceImpl.h"
 
 #include "tovuutil/framework/Logger.h"
+#include "tovuutil/framework/detail/ServiceTable.h"
 #include "tovuutil/framework/PropertiesService.h"
 #include "tovuutil/framework/UtilServiceFactory.h"
 
@@ -101,9 +102,12 @@ int GUIServiceImpl::messageBox(std::string const& first, std::string const& seco
     if (logger_->isInfoEnabled())
         logger_->info("[" + second + "]: " + first);
     int result = 0;
-    if (isDialogEnabled() && messageBox_ != nullptr)
-        result = callHost(logger_, "Fehler beim Aufruf von messageBox()!",
-                          [&] { return messageBox_(first.c_str(), second.c_str(), type); });
+    if (isDialogEnabled()) {
+        // Called through a copy: no lock is held while the host runs.
+        if (auto callback = messageBox_.load())
+            result = callHost(logger_, "Fehler beim Aufruf von messageBox()!",
+                              [&] { return callback(first.c_str(), second.c_str(), type); });
+    }
     if (logger_->isDebugEnabled())
         logger_->endMethod(marker);
     return result;
@@ -121,9 +125,11 @@ int GUIServiceImpl::initProgressDialog(char const* t1, char const* t2, char cons
 {
     logger_->beginMethod("initProgressDialog");
     int result = 0;
-    if (isDialogEnabled() && initProgressDialog_ != nullptr)
-        result = callHost(logger_, "Fehler beim Aufruf von initProgressDialog()!",
-                          [&] { return initProgressDialog_(t1, t2, t3, t4, t5, t6, t7, t8, t9, t10, n1, n2); });
+    if (isDialogEnabled()) {
+        if (auto callback = initProgressDialog_.load())
+            result = callHost(logger_, "Fehler beim Aufruf von initProgressDialog()!",
+                              [&] { return callback(t1, t2, t3, t4, t5, t6, t7, t8, t9, t10, n1, n2); });
+    }
     logger_->endMethod("initProgressDialog");
     return result;
 }
@@ -134,9 +140,11 @@ int GUIServiceImpl::updateProgressDialog(char const* t1, char const* t2, char co
 {
     logger_->beginMethod("updateProgressDialog");
     int result = 0;
-    if (isDialogEnabled() && updateProgressDialog_ != nullptr)
-        result = callHost(logger_, "Fehler beim Aufruf von updateProgressDialog()!",
-                          [&] { return updateProgressDialog_(t1, t2, t3, t4, t5, t6, t7, t8, t9, t10, n1, n2); });
+    if (isDialogEnabled()) {
+        if (auto callback = updateProgressDialog_.load())
+            result = callHost(logger_, "Fehler beim Aufruf von updateProgressDialog()!",
+                              [&] { return callback(t1, t2, t3, t4, t5, t6, t7, t8, t9, t10, n1, n2); });
+    }
     logger_->endMethod("updateProgressDialog");
     return result;
 }
@@ -145,9 +153,11 @@ int GUIServiceImpl::closeProgressDialog()
 {
     logger_->beginMethod("closeProgressDialog");
     int result = 0;
-    if (isDialogEnabled() && closeProgressDialog_ != nullptr)
-        result = callHost(logger_, "Fehler beim Aufruf von closeProgressDialog()!",
-                          [&] { return closeProgressDialog_(); });
+    if (isDialogEnabled()) {
+        if (auto callback = closeProgressDialog_.load())
+            result = callHost(logger_, "Fehler beim Aufruf von closeProgressDialog()!",
+                              [&] { return callback(); });
+    }
     logger_->endMethod("closeProgressDialog");
     return result;
 }
@@ -161,3 +171,5 @@ bool GUIServiceImpl::isDialogEnabled()
     std::string const resource = properties->loadProperties("tdf.dii");
     return properties->getProperty(resource, "TEST.NO_DIALOG", "") != "TRUE";
 }
+
+tovu::detail::CreatedService tovu::detail::createGUIService() { return makeService<GUIServiceImpl>(); }

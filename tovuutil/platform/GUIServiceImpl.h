@@ -1,13 +1,18 @@
 #ifndef TOVUUTIL_PLATFORM_GUISERVICEIMPL_H
 #define TOVUUTIL_PLATFORM_GUISERVICEIMPL_H
 
+#include <atomic>
+
 #include <tovuutil/framework/GUIService.h>
 
 class Logger;
 
 // GUIServiceImpl
 //
-// Service 3, created by the lifetime manager at start-up.
+// Service 3, created by the lifetime manager at start-up. Callbacks may be
+// registered and called from any thread; a callback runs with no lock of the
+// library held, so it may call back into the library (this service too). A
+// call that races an unregister runs the callback it found at its start.
 class TOVU_API GUIServiceImpl : public GUIService {
 public:
     GUIServiceImpl();
@@ -32,10 +37,10 @@ public:
 
 private:
     Logger* logger_;
-    MessageBoxCallback messageBox_ = nullptr;
-    ProgressDialogCallback initProgressDialog_ = nullptr;
-    ProgressDialogCallback updateProgressDialog_ = nullptr;
-    CloseProgressDialogCallback closeProgressDialog_ = nullptr;
+    std::atomic<MessageBoxCallback> messageBox_{nullptr};
+    std::atomic<ProgressDialogCallback> initProgressDialog_{nullptr};
+    std::atomic<ProgressDialogCallback> updateProgressDialog_{nullptr};
+    std::atomic<CloseProgressDialogCallback> closeProgressDialog_{nullptr};
 };
 
 #endif

@@ -113,6 +113,7 @@ SharedLibResourceManager::SharedLibResourceManager()
 
 SharedLibResourceManager::~SharedLibResourceManager()
 {
+    auto const lock = lockCache();
     ResourceMap& map = getResourceMap();
     logResources();
     while (!map.empty()) {
@@ -125,7 +126,7 @@ SharedLibResourceManager::~SharedLibResourceManager()
             continue;
         if (ownLogger_->isDebugEnabled())
             ownLogger_->debug("delete SharedLib.");
-        delete it->second;
+        releaseResource(it->second);
         if (ownLogger_->isDebugEnabled())
             ownLogger_->debug("erase SharedLib.");
         map.erase(it);

@@ -10,7 +10,10 @@ class Logger;
 //
 // Service 2, created by the lifetime manager at start-up: shared libraries
 // loaded under their normalised file names and cached until unloaded or until
-// shutdown, which unloads every one of them.
+// shutdown, which unloads every one of them. Safe from several threads: an
+// unload waits for a symbol look-up in the same library to end, and a
+// look-up that comes just after an unload loads the library again. A symbol
+// stays valid only while its library is loaded, as ever.
 class TOVU_API SharedLibServiceImpl : public SharedLibService {
 public:
     SharedLibServiceImpl();

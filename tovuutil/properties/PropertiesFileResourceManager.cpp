@@ -5,15 +5,27 @@
 #include "tovuutil/framework/Logger.h"
 #include "tovuutil/properties/Properties.h"
 #include "tovuutil/properties/SystemProperties.h"
+#include "tovuutil/properties/detail/SystemPropertiesVersion.h"
 #include "tovuutil/text/StringUtil.h"
 
 namespace {
 constexpr char kCannotLoad[] = "Properties Datei '%1' kann nicht geladen werden.";
+// Enough for the files a host keeps open; past it the table starts afresh.
+constexpr std::size_t kMaxRememberedKeys = 256;
 } // namespace
 
 PropertiesFileResourceManager::PropertiesFileResourceManager()
-    : ownLogger_(Logger::getInstance("tovuutil.PropertiesFileResourceManager"))
+    : ownLogger_(Logger::getInstance("tovuutil.PropertiesFileResourceManager")),
+      systemPropertiesLogger_(Logger::getInstance("tovuutil.SystemPropertiesServiceImpl")),
+      propertiesLogger_(Logger::getInstance("tovuutil.Properties")),
+      factoryLogger_(Logger::getInstance("tovuutil.UtilServiceFactory"))
 {
+}
+
+bool PropertiesFileResourceManager::keyingIsQuiet() const
+{
+    return !ownLogger_->isDebugEnabled() && !systemPropertiesLogger_->isDebugEnabled() &&
+           !propertiesLogger_->isDebugEnabled() && !factoryLogger_->isDebugEnabled();
 }
 
 PropertiesFileResourceManager::~PropertiesFileResourceManager() { unloadAll(); }
@@ -39,6 +51,18 @@ bool PropertiesFileResourceManager::unload(std::string const& key)
 
 std::string PropertiesFileResourceManager::getFileName(std::string const& name)
 {
+    auto const lock = lockCache();
+    bool const quiet = keyingIsQuiet();
+    unsigned long const version = tovu::detail::systemPropertiesVersion();
+    if (quiet) {
+        if (version != bareNameKeysVersion_) {
+            bareNameKeys_.clear();
+            bareNameKeysVersion_ = version;
+        }
+        auto known = bareNameKeys_.find(name);
+        if (known != bareNameKeys_.end())
+            return known->second;
+    }
     bool debug = ownLogger_->isDebugEnabled();
     std::string const marker = debug ? "getFileName(" + name + ")" : std::string();
     if (debug)
@@ -49,8 +73,13 @@ std::string PropertiesFileResourceManager::getFileName(std::string const& name)
         key = getAbsolutePath(path);
     } else {
         key = getFullFilename(getSystemPropertyIniHome(), path);
-        if (key.empty())
-            key = getAbsolutePath(path);
+        if (key.empty()) {
+            key = getAbsolutePath(path); // depends on the working directory: never remembered
+        } else if (quiet && version == tovu::detail::systemPropertiesVersion()) {
+            if (bareNameKeys_.size() >= kMaxRememberedKeys)
+                bareNameKeys_.clear();
+            bareNameKeys_.emplace(name, key);
+        }
     }
     if (debug) {
         ownLogger_->debug("getFileName result:" + key);
@@ -68,6 +97,7 @@ ResourceManager::ResourceMap& PropertiesFileResourceManager::getResourceMap()
 
 void PropertiesFileResourceManager::unloadAll()
 {
+    auto const lock = lockCache();
     logResources();
     ResourceMap& map = getResourceMap();
     bool debug = ownLogger_->isDebugEnabled();
@@ -82,7 +112,7 @@ void PropertiesFileResourceManager::unloadAll()
             continue;
         if (debug)
             ownLogger_->debug("delete Properties.");
-        delete entry->second;
+        releaseResource(entry->second);
         if (debug)
             ownLogger_->debug("erase Properties.");
         map.erase(entry);

@@ -2,6 +2,7 @@
 #define TOVUUTIL_PROPERTIES_PROPERTIESFILERESOURCEMANAGER_H
 
 #include <string>
+#include <unordered_map>
 
 #include <tovuutil/framework/ResourceManager.h>
 
@@ -21,6 +22,8 @@ class Logger;
 // Example (INI home "/opt/app/etc", working directory "/home/u"):
 //   getFileName("tm.ini")      == "/opt/app/etc/tm.ini"
 //   getFileName("conf\\a.ini") == "/home/u/conf/a.ini"
+//
+// Safe from several threads (see ResourceManager).
 //
 // Destroying a manager unloads every cached file of the shared map (unsaved
 // changes are lost).
@@ -42,7 +45,18 @@ public:
     void unloadAll();
 
 private:
+    // Whether DEBUG is off on every logger that working out a key writes to.
+    bool keyingIsQuiet() const;
+
     Logger* ownLogger_;
+    Logger* systemPropertiesLogger_;
+    Logger* propertiesLogger_;
+    Logger* factoryLogger_;
+    // Keys of bare names, valid while the system properties (and with them
+    // the INI home) keep the version they were worked out under. Used only
+    // when working a key out would log nothing, so the log is the same.
+    std::unordered_map<std::string, std::string> bareNameKeys_;
+    unsigned long bareNameKeysVersion_ = 0;
 };
 
 #endif

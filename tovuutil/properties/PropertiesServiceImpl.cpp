@@ -3,6 +3,8 @@
 #include "tovuutil/files/FileOperation.h"
 #include "tovuutil/files/PathUtil.h"
 #include "tovuutil/framework/Logger.h"
+#include "tovuutil/framework/detail/ServiceTable.h"
+#include "tovuutil/framework/detail/CachedResource.h"
 #include "tovuutil/framework/detail/MethodMarker.h"
 #include "tovuutil/properties/Properties.h"
 #include "tovuutil/properties/SystemProperties.h"
@@ -41,10 +43,9 @@ PropertiesServiceImpl::~PropertiesServiceImpl()
     }
 }
 
-Properties* PropertiesServiceImpl::file(std::string const& resource)
+PropertiesServiceImpl::LockedFile PropertiesServiceImpl::file(std::string const& resource)
 {
-    // The cache holds Properties objects only.
-    return static_cast<Properties*>(manager_.getResource(resource));
+    return LockedFile(manager_.acquireResource(resource));
 }
 
 std::string PropertiesServiceImpl::loadProperties(std::string const& name)
@@ -57,8 +58,8 @@ std::string PropertiesServiceImpl::loadProperties(std::string const& name)
         if (!fileExists(fullName))
             writeString2File(fullName, std::string());
     }
-    Resource* resource = manager_.getResource(name);
-    return resource ? resource->getName() : std::string();
+    LockedFile const resource = file(name);
+    return resource.get() ? resource.get()->getName() : std::string();
 }
 
 bool PropertiesServiceImpl::unloadProperties(std::string const& resource)
@@ -70,7 +71,8 @@ bool PropertiesServiceImpl::unloadProperties(std::string const& resource)
 std::string PropertiesServiceImpl::getProperty(std::string const& resource, std::string const& key)
 {
     MethodMarker marker(logger_, [&] { return "getProperty(" + quote(resource) + ", " + quote(key) + ")"; });
-    Properties* properties = file(resource);
+    LockedFile const locked = file(resource);
+    Properties* properties = locked.get();
     return properties ? properties->getProperty(key) : std::string();
 }
 
@@ -87,7 +89,8 @@ std::string PropertiesServiceImpl::getProperty(std::string const& resource, std:
 bool PropertiesServiceImpl::isAvailable(std::string const& resource, std::string const& key)
 {
     MethodMarker marker(logger_, [&] { return "isAvailable(" + quote(resource) + ", " + quote(key) + ")"; });
-    Properties* properties = file(resource);
+    LockedFile const locked = file(resource);
+    Properties* properties = locked.get();
     return properties ? properties->isAvailable(key) : false;
 }
 
@@ -96,14 +99,16 @@ void PropertiesServiceImpl::setProperty(std::string const& resource, std::string
     MethodMarker marker(logger_, [&] {
         return "setProperty(" + quote(resource) + ", " + quote(key) + ", " + quote(value) + ")";
     });
-    if (Properties* properties = file(resource))
+    LockedFile const locked = file(resource);
+    if (Properties* properties = locked.get())
         properties->setProperty(key, value);
 }
 
 bool PropertiesServiceImpl::saveProperties(std::string const& resource)
 {
     MethodMarker marker(logger_, [&] { return "saveProperties(" + quote(resource) + ")"; });
-    Properties* properties = file(resource);
+    LockedFile const locked = file(resource);
+    Properties* properties = locked.get();
     return properties ? properties->writeProperties() : false;
 }
 
@@ -111,14 +116,16 @@ std::vector<std::string> PropertiesServiceImpl::getKeysOfSection(std::string con
                                                                  std::string const& section)
 {
     MethodMarker marker(logger_, [&] { return "getKeysOfSection(" + quote(resource) + ", " + quote(section) + ")"; });
-    Properties* properties = file(resource);
+    LockedFile const locked = file(resource);
+    Properties* properties = locked.get();
     return properties ? toVector(properties->getKeysOfSection(section)) : std::vector<std::string>();
 }
 
 std::vector<std::string> PropertiesServiceImpl::getSectionNames(std::string const& resource)
 {
     MethodMarker marker(logger_, [&] { return "getSectionNames(" + quote(resource) + ")"; });
-    Properties* properties = file(resource);
+    LockedFile const locked = file(resource);
+    Properties* properties = locked.get();
     return properties ? toVector(properties->getSectionNames()) : std::vector<std::string>();
 }
 
@@ -153,6 +160,9 @@ void PropertiesServiceImpl::setProperties(std::string const& resource,
 bool PropertiesServiceImpl::removeProperty(std::string const& resource, std::string const& key)
 {
     MethodMarker marker(logger_, [&] { return "removeProperty(" + quote(resource) + ", " + quote(key) + ")"; });
-    Properties* properties = file(resource);
+    LockedFile const locked = file(resource);
+    Properties* properties = locked.get();
     return properties ? properties->removeProperty(key) : false;
 }
+
+tovu::detail::CreatedService tovu::detail::createPropertiesService() { return makeService<PropertiesServiceImpl>(); }

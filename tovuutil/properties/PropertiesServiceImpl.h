@@ -1,6 +1,7 @@
 #ifndef TOVUUTIL_PROPERTIES_PROPERTIESSERVICEIMPL_H
 #define TOVUUTIL_PROPERTIES_PROPERTIESSERVICEIMPL_H
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -11,6 +12,13 @@
 class Logger;
 class Properties;
 
+namespace tovu {
+namespace detail {
+template <class T>
+class LockedResource;
+} // namespace detail
+} // namespace tovu
+
 // PropertiesServiceImpl
 //
 // Service 1: properties files by name, loaded on first use and cached by
@@ -20,6 +28,13 @@ class Properties;
 // need be loads, the file first. A file that cannot be loaded is cached as an
 // empty object: reads give "" (or the default), isAvailable false. Changes
 // stay in memory until saveProperties. Nothing is thrown.
+//
+// Threads: each operation on a file is atomic against the others on that
+// file (a read sees the value before or after a concurrent write, never part
+// of it); operations that loop over a file (clearProperties, getAllProperties,
+// setProperties) are a series of such steps. unloadProperties while another
+// thread works on the file drops it from the cache at once; the other thread
+// finishes on its own copy, which is freed after.
 //
 // Every operation writes DEBUG method markers with its arguments, e.g.
 // getProperty("tm.ini", "A.b"); setProperties shows its list as <vector>.
@@ -66,7 +81,9 @@ public:
     bool removeProperty(std::string const& resource, std::string const& key) override;
 
 private:
-    Properties* file(std::string const& resource);
+    using LockedFile = tovu::detail::LockedResource<Properties>;
+    // The cached file (loaded if need be) locked for one operation.
+    LockedFile file(std::string const& resource);
 
     Logger* logger_;
     PropertiesFileResourceManager manager_;

@@ -1,12 +1,20 @@
 #include "tovuutil/properties/SystemPropertiesServiceImpl.h"
 
+#include <atomic>
+
 #include "tovuutil/files/FileOperation.h"
 #include "tovuutil/files/PathUtil.h"
 #include "tovuutil/framework/Logger.h"
+#include "tovuutil/framework/detail/ServiceTable.h"
 #include "tovuutil/framework/detail/MethodMarker.h"
 #include "tovuutil/properties/SystemProperties.h"
+#include "tovuutil/properties/detail/SystemPropertiesVersion.h"
 
 namespace {
+
+std::atomic<unsigned long> tableVersion{0};
+
+void tableChanged() { tableVersion.fetch_add(1, std::memory_order_acq_rel); }
 
 constexpr int kHomeSet = 0;
 constexpr int kHomeNotWritable = 1;
@@ -33,6 +41,7 @@ tovu::detail::MethodMarker marked(Logger* logger, char const* method, std::strin
 SystemPropertiesServiceImpl::SystemPropertiesServiceImpl()
     : logger_(Logger::getInstance("tovuutil.SystemPropertiesServiceImpl"))
 {
+    tableChanged();
     if (logger_->isDebugEnabled()) {
         logger_->beginConstruct("SystemPropertiesServiceImpl()");
         logger_->endConstruct("SystemPropertiesServiceImpl()");
@@ -41,6 +50,7 @@ SystemPropertiesServiceImpl::SystemPropertiesServiceImpl()
 
 SystemPropertiesServiceImpl::~SystemPropertiesServiceImpl()
 {
+    tableChanged();
     if (logger_->isDebugEnabled()) {
         logger_->beginDestruct("~SystemPropertiesServiceImpl()");
         logger_->endDestruct("~SystemPropertiesServiceImpl()");
@@ -49,12 +59,14 @@ SystemPropertiesServiceImpl::~SystemPropertiesServiceImpl()
 
 std::string SystemPropertiesServiceImpl::getSystemProperty(std::string const& key)
 {
+    std::lock_guard<std::recursive_mutex> const lock(mutex_);
     auto const marker = marked(logger_, "getSystemProperty", key);
     return properties_.getProperty(key);
 }
 
 std::string SystemPropertiesServiceImpl::getSystemProperty(std::string const& key, std::string const& defaultValue)
 {
+    std::lock_guard<std::recursive_mutex> const lock(mutex_);
     auto const marker = marked(logger_, "getSystemProperty", key);
     std::string value = properties_.getProperty(key);
     return value.empty() ? defaultValue : value;
@@ -62,6 +74,7 @@ std::string SystemPropertiesServiceImpl::getSystemProperty(std::string const& ke
 
 bool SystemPropertiesServiceImpl::isGetSystemProperty(std::string const& key, std::string& value)
 {
+    std::lock_guard<std::recursive_mutex> const lock(mutex_);
     auto const marker = marked(logger_, "isGetSystemProperty", key);
     if (!isSystemPropertyAvailable(key))
         return false;
@@ -71,48 +84,59 @@ bool SystemPropertiesServiceImpl::isGetSystemProperty(std::string const& key, st
 
 void SystemPropertiesServiceImpl::setSystemProperty(std::string const& key, std::string const& value)
 {
+    std::lock_guard<std::recursive_mutex> const lock(mutex_);
     auto const marker = marked(logger_, "setSystemProperty", key);
     properties_.setProperty(key, value);
+    tableChanged();
 }
 
 bool SystemPropertiesServiceImpl::isSystemPropertyAvailable(std::string const& key)
 {
+    std::lock_guard<std::recursive_mutex> const lock(mutex_);
     auto const marker = marked(logger_, "isSystemPropertyAvailable", key);
     return properties_.isAvailable(key);
 }
 
 bool SystemPropertiesServiceImpl::removeSystemProperty(std::string const& key)
 {
+    std::lock_guard<std::recursive_mutex> const lock(mutex_);
     auto const marker = marked(logger_, "removeSystemProperty", key);
-    return properties_.removeProperty(key);
+    bool const removed = properties_.removeProperty(key);
+    tableChanged();
+    return removed;
 }
 
 std::string SystemPropertiesServiceImpl::getIniHome()
 {
+    std::lock_guard<std::recursive_mutex> const lock(mutex_);
     tovu::detail::MethodMarker const marker(logger_, "getIniHome()");
     return getSystemProperty(TOVU_PROPERTY_INI_HOME);
 }
 
 std::string SystemPropertiesServiceImpl::getLogHome()
 {
+    std::lock_guard<std::recursive_mutex> const lock(mutex_);
     tovu::detail::MethodMarker const marker(logger_, "getLogHome()");
     return getSystemProperty(TOVU_PROPERTY_LOG_HOME);
 }
 
 std::string SystemPropertiesServiceImpl::getTempHome()
 {
+    std::lock_guard<std::recursive_mutex> const lock(mutex_);
     tovu::detail::MethodMarker const marker(logger_, "getTempHome()");
     return getSystemProperty(TOVU_PROPERTY_TEMP_HOME);
 }
 
 std::string SystemPropertiesServiceImpl::getDataHome()
 {
+    std::lock_guard<std::recursive_mutex> const lock(mutex_);
     tovu::detail::MethodMarker const marker(logger_, "getDataHome()");
     return getSystemProperty(TOVU_PROPERTY_DATA_HOME);
 }
 
 std::string SystemPropertiesServiceImpl::getTovuHome()
 {
+    std::lock_guard<std::recursive_mutex> const lock(mutex_);
     tovu::detail::MethodMarker const marker(logger_, "getTovuHome()");
     return getSystemProperty(PROPERTY_TOVU_HOME);
 }
@@ -120,6 +144,7 @@ std::string SystemPropertiesServiceImpl::getTovuHome()
 int SystemPropertiesServiceImpl::setHome(char const* key, std::string const& home, bool movesLog)
 {
     // Every setter shows as "setIniHome" in the log, on purpose.
+    std::lock_guard<std::recursive_mutex> const lock(mutex_);
     auto const marker = marked(logger_, "setIniHome", home);
     if (home.empty())
         return kHomeEmpty;
@@ -143,12 +168,14 @@ int SystemPropertiesServiceImpl::setTovuHome(std::string const& home) { return s
 
 void SystemPropertiesServiceImpl::log()
 {
+    std::lock_guard<std::recursive_mutex> const lock(mutex_);
     tovu::detail::MethodMarker const marker(logger_, "log()");
     properties_.log();
 }
 
 std::vector<std::pair<std::string, std::string>> SystemPropertiesServiceImpl::getAllSystemProperties()
 {
+    std::lock_guard<std::recursive_mutex> const lock(mutex_);
     tovu::detail::MethodMarker const marker(logger_, "getAllProperties()");
     std::vector<std::pair<std::string, std::string>> all;
     for (std::string const& section : properties_.getSectionNames()) {
@@ -159,3 +186,7 @@ std::vector<std::pair<std::string, std::string>> SystemPropertiesServiceImpl::ge
     }
     return all;
 }
+
+tovu::detail::CreatedService tovu::detail::createSystemPropertiesService() { return makeService<SystemPropertiesServiceImpl>(); }
+
+unsigned long tovu::detail::systemPropertiesVersion() { return tableVersion.load(std::memory_order_acquire); }

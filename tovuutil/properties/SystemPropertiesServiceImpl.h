@@ -1,6 +1,7 @@
 #ifndef TOVUUTIL_PROPERTIES_SYSTEMPROPERTIESSERVICEIMPL_H
 #define TOVUUTIL_PROPERTIES_SYSTEMPROPERTIESSERVICEIMPL_H
 
+#include <mutex>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,6 +18,9 @@ class Logger;
 // keys). The values live only in memory, in one Properties table; keys are
 // dotted names ("_TOVU_intern.TOVU_PROPERTY_INI_HOME"). Missing keys read as
 // "" and are no error.
+//
+// Threads: every operation is atomic; a home setter and the move of the log
+// it causes are one step.
 //
 // Every operation writes DEBUG method markers "<name>(\"<key or directory>\")".
 // Deliberate, hosts' log readers rely on them: all five home setters use the
@@ -70,6 +74,8 @@ private:
     int setHome(char const* key, std::string const& home, bool movesLog);
 
     Logger* logger_;
+    // Recursive: operations call each other through the virtual slots.
+    std::recursive_mutex mutex_;
     Properties properties_;
 };
 
