@@ -67,8 +67,8 @@ ObjectLifetimeManager::~ObjectLifetimeManager()
     // Being destroyed: never delete ourselves again. Any manager going away
     // shuts the process-wide one down, but a destructor never creates one.
     dynamically_allocated_ = 0;
-    if (instance_ != nullptr)
-        instance_->shutdown();
+    if (ObjectLifetimeManager* const current = instance_.load(std::memory_order_acquire))
+        current->shutdown();
 }
 
 ObjectLifetimeManager* ObjectLifetimeManager::instance()
