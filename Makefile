@@ -9,7 +9,7 @@ BENCH_DEPS  := libmodpbase64-dev libssl-dev libinih-dev
 PACKAGE_DEPS := dpkg-dev file
 # Windows: cross compilers, Wine, and what building log4cpp and GoogleTest needs.
 WINDOWS_DEPS := g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine64 autoconf automake libtool \
-                patch googletest libboost-dev cmake make pkg-config ccache zip
+                patch googletest libboost-dev cmake make pkg-config ccache
 # Cross-built dependencies and the log4cpp download live outside the tree.
 WIN_DEPS_PREFIX ?= $(HOME)/.cache/tovuutil-windows
 WIN_ARCHS   ?= x86_64 i686

@@ -17,8 +17,16 @@ if ! [ -x "$wine" ]; then
   exit 0
 fi
 export WINEPREFIX="$wineprefix" WINEDEBUG=-all
+if [ ! -f "$wineprefix/system.reg" ]; then
+  echo "== creating the Wine prefix $wineprefix"
+  "$wine" wineboot --init >/dev/null 2>&1
+  "$server" -w
+fi
 # One wineserver for the whole parallel run: each test is a process of its own.
 "$server" -p
 trap '"$server" -k 2>/dev/null || true' EXIT
+# Start Wine's own services now, away from ctest's pipes: a service holding a
+# test's output pipe open would make ctest wait for it until the timeout.
+"$wine" wineboot >/dev/null 2>&1 </dev/null
 echo "== $arch: tests under $(basename "$wine")"
 cd "$build" && ctest --output-on-failure "$@"

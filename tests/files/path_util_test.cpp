@@ -1,19 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 #include <tovuutil/tovuutil.h>
 
+#include "HostPaths.h"
 #include "framework/TempDir.h"
 
+using tovutest::hostPath;
+
 namespace {
-std::string cwd()
-{
-    char* raw = getcwd(nullptr, 0);
-    std::string dir(raw);
-    std::free(raw);
-    return dir;
-}
+std::string cwd() { return tovutest::workingDirectory(); }
 } // namespace
 
 TEST(PathUtil, TransformAndFormat)
@@ -86,14 +81,14 @@ TEST(PathUtil, TemporaryDirectoryNamesAreFreshAndUnused)
     tovutest::TempDir dir;
     std::string const name = createTempDirName(dir.path());
     ASSERT_EQ(name.size(), dir.path().size() + 1 + 12);
-    EXPECT_EQ(name.substr(0, dir.path().size() + 1), dir.path() + "/");
+    EXPECT_EQ(name.substr(0, dir.path().size() + 1), dir.path() + tovutest::kSep);
     std::string const leaf = name.substr(dir.path().size() + 1);
-    EXPECT_EQ(leaf.find('/'), std::string::npos);
-    EXPECT_EQ(access(name.c_str(), F_OK), -1); // nothing is created
+    EXPECT_EQ(leaf.find(tovutest::kSep), std::string::npos);
+    EXPECT_FALSE(tovutest::pathExists(name)); // nothing is created
 
     // When the plain name is taken, a two-digit hex suffix is added.
-    ASSERT_EQ(mkdir(name.c_str(), 0755), 0);
+    ASSERT_EQ(tovutest::makeDir(name), 0);
     std::string const next = createTempDirName(dir.path());
     ASSERT_FALSE(next.empty());
-    EXPECT_EQ(access(next.c_str(), F_OK), -1);
+    EXPECT_FALSE(tovutest::pathExists(next));
 }
