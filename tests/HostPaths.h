@@ -32,6 +32,17 @@ inline std::string hostPath(std::string path)
     return path;
 }
 
+// The POSIX spelling of a path mirrored for the host: on Windows '/' and '\\'
+// trade places, so an example written for one host reads the same on both.
+inline std::string mirrored(std::string path)
+{
+#ifdef _WIN32
+    for (char& c : path)
+        c = c == '/' ? '\\' : c == '\\' ? '/' : c;
+#endif
+    return path;
+}
+
 inline std::string joinPath(std::string const& dir, std::string const& name) { return dir + kSep + name; }
 
 // mkdir with the default mode; Windows has no mode.

@@ -78,9 +78,20 @@ TEST_F(FileOperation, ErrnoTablesGiveTheirTexts)
     write("full/x", "");
     EXPECT_EQ(deleteDir(at("full")), -1);
     EXPECT_EQ(deleteFile(at("full")), -1); // a directory is no file for remove()... but rmdir works on empty ones
+#ifdef _WIN32
+    // The C runtime gives EINVAL for a file passed to _rmdir and EACCES for a
+    // directory passed to remove().
+    std::string const notADirectory = "The path argument contains a last component that is dot.";
+    std::string const notAFile = "Schreibzugriff auf das Verzeichnis, das Pfadname enth\xE4lt, ist f\xFCr die aktuell "
+                                 "g\xFCltige uid des Prozesses nicht erlaubt, oder eines der Verzeichnisse in Pfadname "
+                                 "erlaubt keinen Such- (Ausf\xFChr-) zugriff.";
+#else
+    std::string const notADirectory =
+        "pathname, oder ein als Verzeichnis benutzter Teil von pathname, ist kein Verzeichnis.";
+    std::string const notAFile = "Unbekannter Fehler.(" + std::to_string(ENOTEMPTY) + ")";
+#endif
     EXPECT_EQ(log(), (std::vector<std::string>{
-                         "deleteDir(" + at("file") +
-                             "): pathname, oder ein als Verzeichnis benutzter Teil von pathname, ist kein Verzeichnis.",
+                         "deleteDir(" + at("file") + "): " + notADirectory,
                          "deleteDir(" + at("nodir") +
                              "): Ein Teil des Verzeichnisses in pathname existiert nicht, oder ist ein kaputter "
                              "symbolischer Link.",
@@ -89,7 +100,7 @@ TEST_F(FileOperation, ErrnoTablesGiveTheirTexts)
                          "deleteDir(" + at("full") +
                              "): pathname enth\xE4llt andere Eintr\xE4ge als . und .. (das Verzeichnis ist nicht "
                              "leer). ",
-                         "deleteFile(" + at("full") + "): Unbekannter Fehler.(" + std::to_string(ENOTEMPTY) + ")",
+                         "deleteFile(" + at("full") + "): " + notAFile,
                      }));
 }
 
@@ -185,7 +196,9 @@ TEST_F(FileOperation, ExistenceDirectoriesAndModes)
     EXPECT_EQ(pathExists(at("d") + "\\"), 'd');
     EXPECT_EQ(pathExists(at("f")), 'f');
     EXPECT_EQ(fileAccess(at("f"), 4), 0);
+#ifndef _WIN32 // the Windows C runtime accepts every mode
     EXPECT_EQ(fileAccess(at("f"), 1), -1); // not a mode the host offers
+#endif
     EXPECT_EQ(changeMode(at("f"), 0600), 0);
 #ifndef _WIN32 // Windows keeps only a read-only bit
     struct stat info;
@@ -253,6 +266,9 @@ TEST_F(FileOperation, TreesAreDeletedCopiedAndMovedWithoutFollowingLinks)
 
 TEST_F(FileOperation, ADeepTreeNeedsNoDeepStack)
 {
+#ifdef _WIN32
+    GTEST_SKIP() << "a Windows path stops at MAX_PATH long before 300 levels";
+#endif
     std::string path = at("deep");
     ASSERT_EQ(tovutest::makeDir(path), 0);
     std::string relative = "deep";
