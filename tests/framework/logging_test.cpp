@@ -20,7 +20,7 @@ class LoggingTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        Log4cxx::relocateLog("", "", dir_.path() + "/");
+        Log4cxx::relocateLog("", "", dir_.path() + tovutest::kSep);
         logger_ = Logger::getInstance("tovuutil.LoggingTest");
     }
     TempDir dir_;
@@ -160,8 +160,8 @@ TEST(Relocation, MovesTheLogFileAndDeletesTheOldOne)
 {
     TempDir first;
     TempDir second;
-    std::string const firstDir = first.path() + "/";
-    std::string const secondDir = second.path() + "/";
+    std::string const firstDir = first.path() + tovutest::kSep;
+    std::string const secondDir = second.path() + tovutest::kSep;
     Logger* logger = Logger::getInstance("tovuutil.Relocation");
 
     Log4cxx::relocateLog("", "", firstDir);
@@ -185,8 +185,8 @@ TEST(Relocation, FromNowhereReconfiguresButDeletesNothing)
     TempDir dir;
     std::string const start = Log4cxx::getLogDirectory();
     Logger::getInstance("tovuutil.Relocation")->tovuLog("vorher", 99, "", 99);
-    Log4cxx::relocateLog("", "", dir.path() + "/");
-    EXPECT_EQ(access((start + "/tovu.log").c_str(), F_OK), 0);
+    Log4cxx::relocateLog("", "", dir.path() + tovutest::kSep);
+    EXPECT_EQ(access((start + tovutest::kSepText + "tovu.log").c_str(), F_OK), 0);
     Logger::getInstance("tovuutil.Relocation")->tovuLog("danach", 99, "", 99);
     EXPECT_EQ(logMessages(dir.path()), (std::vector<std::string>{"danach"}));
 }
