@@ -16,6 +16,15 @@
 #include "HostPaths.h"
 #include "sysprops/HostCommand.h"
 
+// Wine sets SystemRoot and TEMP itself and the homes below are POSIX paths:
+// the environment these checks prepare does not reach a Windows program.
+#ifdef _WIN32
+#define TOVU_SKIP_LOAD_TIME_HOMES_UNDER_WINE() \
+    GTEST_SKIP() << "the prepared environment (SystemRoot, TEMP, POSIX homes) does not reach a Windows program"
+#else
+#define TOVU_SKIP_LOAD_TIME_HOMES_UNDER_WINE() (void)0
+#endif
+
 namespace tovutest {
 
 // The configured scratch homes (see CMakeLists.txt).

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
 #include <thread>
 
@@ -19,10 +20,11 @@ TEST(SystemInformation, MachineFactsAgreeWithTheHost)
     TovuSystemInformation info;
     EXPECT_EQ(TovuSystemInformation::STATE_OK, info.getState());
     EXPECT_EQ(static_cast<int>(std::thread::hardware_concurrency()), static_cast<int>(info.getNumProcessors()));
-    MEMORYSTATUSEX memory{};
+    // The 32-bit memory status: the low half only, also on a 64-bit host.
+    MEMORYSTATUS memory{};
     memory.dwLength = sizeof memory;
-    ASSERT_TRUE(GlobalMemoryStatusEx(&memory));
-    EXPECT_EQ(static_cast<long long>(memory.ullTotalPhys), static_cast<long long>(info.getTotalMemory()));
+    GlobalMemoryStatus(&memory);
+    EXPECT_EQ(static_cast<std::uint32_t>(memory.dwTotalPhys), info.getTotalMemory());
     EXPECT_LE(info.getFreeMemory(), info.getTotalMemory());
     EXPECT_EQ(sizeof(void*) == 8 ? "X86_64" : "X86", info.getArchitecture());
 }
