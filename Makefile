@@ -67,9 +67,9 @@ package-deps: deps
 # Cross-builds tovuutil.dll, tovu.exe and the tests for each of WIN_ARCHS, and
 # runs the tests under Wine (the i686 ones only where 32-bit Wine is installed).
 windows: windows-build
-	@for arch in $(WIN_ARCHS); do \
-	  windows/run-tests.sh $(WIN_BUILD)-$$arch $$arch $(WIN_DEPS_PREFIX)/wine-$$arch -j$(JOBS) || exit 1; \
-	done
+	@status=0; for arch in $(WIN_ARCHS); do \
+	  windows/run-tests.sh $(WIN_BUILD)-$$arch $$arch $(WIN_DEPS_PREFIX)/wine-$$arch -j$(JOBS) || status=1; \
+	done; exit $$status
 
 windows-build: windows-deps
 	@for arch in $(WIN_ARCHS); do \
