@@ -19,4 +19,12 @@ set(CPACK_DEBIAN_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "liblog4cpp5-dev, libboost-dev, pkg-config")
 set(CPACK_STRIP_FILES ON)
+if(WIN32)
+  # `make windows-package`: a ZIP with the DLL, its import library, the
+  # runtime DLLs beside it, headers, CMake files and tovu.exe.
+  set(CPACK_GENERATOR ZIP)
+  set(CPACK_SYSTEM_NAME ${CMAKE_SYSTEM_PROCESSOR}-w64-mingw32)
+  set(CPACK_STRIP_FILES OFF)
+  set(CPACK_PACKAGING_INSTALL_PREFIX "")
+endif()
 include(CPack)

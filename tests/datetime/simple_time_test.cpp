@@ -107,8 +107,13 @@ TEST(SimpleTime, NowIsTheLocalTimeOfDay)
     SimpleTime now;
     std::time_t const after = std::time(nullptr);
     std::tm b{}, a{};
+#ifdef _WIN32
+    localtime_s(&b, &before);
+    localtime_s(&a, &after);
+#else
     localtime_r(&before, &b);
     localtime_r(&after, &a);
+#endif
     long const low = b.tm_hour * 3600L + b.tm_min * 60 + b.tm_sec;
     long const high = a.tm_hour * 3600L + a.tm_min * 60 + a.tm_sec;
     if (high >= low) { // not across midnight

@@ -1,13 +1,15 @@
 #include <gtest/gtest.h>
 
-#include <sys/stat.h>
+#ifndef _WIN32
 #include <unistd.h>
+#endif
 
 #include <algorithm>
 #include <fstream>
 
 #include <tovuutil/tovuutil.h>
 
+#include "HostPaths.h"
 #include "framework/TempDir.h"
 
 namespace {
@@ -23,13 +25,17 @@ TEST(DirReader, ListsFilesAndDirectoriesByWildcard)
 {
     tovutest::TempDir dir;
     for (char const* name : {"a.ini", "B.INI", ".hidden", "noext", "x.tar.gz"})
-        std::ofstream(dir.path() + "/" + name) << "x";
-    mkdir((dir.path() + "/sub.d").c_str(), 0755);
+        std::ofstream(tovutest::joinPath(dir.path(), name)) << "x";
+    tovutest::makeDir(tovutest::joinPath(dir.path(), "sub.d"));
+#ifdef _WIN32
+    std::vector<std::string> const everyFile{".hidden", "B.INI", "a.ini", "noext", "x.tar.gz"};
+#else
     symlink(dir.path().c_str(), (dir.path() + "/loop").c_str());
+    std::vector<std::string> const everyFile{".hidden", "B.INI", "a.ini", "loop", "noext", "x.tar.gz"};
+#endif
 
     DirReader all(dir.path(), "*.*");
-    EXPECT_EQ(sorted(all.getFiles()),
-              (std::vector<std::string>{".hidden", "B.INI", "a.ini", "loop", "noext", "x.tar.gz"}));
+    EXPECT_EQ(sorted(all.getFiles()), everyFile);
     EXPECT_EQ(sorted(all.getDirectories()), std::vector<std::string>{"sub.d"});
 
     DirReader reader(dir.path() + "\\", "*.ini");
@@ -52,7 +58,7 @@ TEST(DirReader, EmptyAndMissingDirectories)
     DirReader empty(dir.path(), "*.*");
     EXPECT_TRUE(empty.getFiles().empty());
     EXPECT_TRUE(empty.getDirectories().empty());
-    DirReader missing(dir.path() + "/none", "*");
+    DirReader missing(tovutest::joinPath(dir.path(), "none"), "*");
     EXPECT_TRUE(missing.getFiles().empty());
     EXPECT_TRUE(missing.getDirectories().empty());
 }

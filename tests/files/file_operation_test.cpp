@@ -2,13 +2,16 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#ifndef _WIN32
 #include <unistd.h>
+#endif
 
 #include <cstdlib>
 #include <fstream>
 
 #include <tovuutil/tovuutil.h>
 
+#include "HostPaths.h"
 #include "framework/LogCapture.h"
 #include "framework/TempDir.h"
 
@@ -19,10 +22,10 @@ class FileOperation : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        log4cxx::Log4cxx::relocateLog("", "", dir_.path() + "/");
+        log4cxx::Log4cxx::relocateLog("", "", dir_.path() + tovutest::kSep);
     }
 
-    std::string at(std::string const& name) const { return dir_.path() + "/" + name; }
+    std::string at(std::string const& name) const { return tovutest::joinPath(dir_.path(), tovutest::hostPath(name)); }
     void write(std::string const& name, std::string const& content) const
     {
         std::ofstream(at(name), std::ios::binary) << content;
@@ -30,8 +33,12 @@ protected:
     std::string read(std::string const& name) const { return tovutest::readFile(at(name)); }
     bool exists(std::string const& name) const
     {
+#ifdef _WIN32
+        return tovutest::pathExists(at(name));
+#else
         struct stat info;
         return lstat(at(name).c_str(), &info) == 0;
+#endif
     }
     std::vector<std::string> log() const { return tovutest::logMessages(dir_.path()); }
     void forgetLog() const { std::ofstream(at("tovu.log"), std::ios::trunc); }
@@ -67,13 +74,24 @@ TEST_F(FileOperation, ErrnoTablesGiveTheirTexts)
     EXPECT_EQ(deleteDir(at("nodir")), -1);
     EXPECT_FALSE(changeDir(at("nodir")));
     EXPECT_EQ(changeMode(at("nodir"), 0644), -1);
-    ASSERT_EQ(mkdir(at("full").c_str(), 0755), 0);
+    ASSERT_EQ(tovutest::makeDir(at("full")), 0);
     write("full/x", "");
     EXPECT_EQ(deleteDir(at("full")), -1);
     EXPECT_EQ(deleteFile(at("full")), -1); // a directory is no file for remove()... but rmdir works on empty ones
+#ifdef _WIN32
+    // The C runtime gives EINVAL for a file passed to _rmdir and EACCES for a
+    // directory passed to remove().
+    std::string const notADirectory = "The path argument contains a last component that is dot.";
+    std::string const notAFile = "Schreibzugriff auf das Verzeichnis, das Pfadname enth\xE4lt, ist f\xFCr die aktuell "
+                                 "g\xFCltige uid des Prozesses nicht erlaubt, oder eines der Verzeichnisse in Pfadname "
+                                 "erlaubt keinen Such- (Ausf\xFChr-) zugriff.";
+#else
+    std::string const notADirectory =
+        "pathname, oder ein als Verzeichnis benutzter Teil von pathname, ist kein Verzeichnis.";
+    std::string const notAFile = "Unbekannter Fehler.(" + std::to_string(ENOTEMPTY) + ")";
+#endif
     EXPECT_EQ(log(), (std::vector<std::string>{
-                         "deleteDir(" + at("file") +
-                             "): pathname, oder ein als Verzeichnis benutzter Teil von pathname, ist kein Verzeichnis.",
+                         "deleteDir(" + at("file") + "): " + notADirectory,
                          "deleteDir(" + at("nodir") +
                              "): Ein Teil des Verzeichnisses in pathname existiert nicht, oder ist ein kaputter "
                              "symbolischer Link.",
@@ -82,7 +100,7 @@ TEST_F(FileOperation, ErrnoTablesGiveTheirTexts)
                          "deleteDir(" + at("full") +
                              "): pathname enth\xE4llt andere Eintr\xE4ge als . und .. (das Verzeichnis ist nicht "
                              "leer). ",
-                         "deleteFile(" + at("full") + "): Unbekannter Fehler.(" + std::to_string(ENOTEMPTY) + ")",
+                         "deleteFile(" + at("full") + "): " + notAFile,
                      }));
 }
 
@@ -163,7 +181,7 @@ TEST_F(FileOperation, SecureDeletion)
 
     // Something that exists but cannot be opened for overwriting (a
     // directory, which even root cannot open so): nothing happens but a line.
-    ASSERT_EQ(mkdir(at("dir").c_str(), 0755), 0);
+    ASSERT_EQ(tovutest::makeDir(at("dir")), 0);
     forgetLog();
     EXPECT_EQ(deleteFileSecure(at("dir")), -1);
     EXPECT_EQ(pathExists(at("dir")), 'd');
@@ -172,17 +190,21 @@ TEST_F(FileOperation, SecureDeletion)
 
 TEST_F(FileOperation, ExistenceDirectoriesAndModes)
 {
-    ASSERT_EQ(mkdir(at("d").c_str(), 0755), 0);
+    ASSERT_EQ(tovutest::makeDir(at("d")), 0);
     write("f", "x");
     EXPECT_EQ(pathExists(at("d") + "/"), 'd');
     EXPECT_EQ(pathExists(at("d") + "\\"), 'd');
     EXPECT_EQ(pathExists(at("f")), 'f');
     EXPECT_EQ(fileAccess(at("f"), 4), 0);
+#ifndef _WIN32 // the Windows C runtime accepts every mode
     EXPECT_EQ(fileAccess(at("f"), 1), -1); // not a mode the host offers
+#endif
     EXPECT_EQ(changeMode(at("f"), 0600), 0);
+#ifndef _WIN32 // Windows keeps only a read-only bit
     struct stat info;
     stat(at("f").c_str(), &info);
     EXPECT_EQ(info.st_mode & 0777, 0600u);
+#endif
     std::tm const t = getFileTime(at("f"));
     EXPECT_GE(t.tm_year, 120);
 
@@ -193,23 +215,23 @@ TEST_F(FileOperation, ExistenceDirectoriesAndModes)
     EXPECT_FALSE(createDir(at("f/sub"), 0755));
     EXPECT_EQ(log(), (std::vector<std::string>{"createDir: Der Pfad '" + at("f") + "' existiert bereits als Datei."}));
 
-    char* before = getcwd(nullptr, 0);
+    std::string const before = tovutest::workingDirectory();
     EXPECT_TRUE(changeDir(at("d")));
-    char* after = getcwd(nullptr, 0);
-    EXPECT_EQ(std::string(after), at("d"));
-    chdir(before);
-    std::free(before);
-    std::free(after);
+    EXPECT_EQ(tovutest::workingDirectory(), at("d"));
+    EXPECT_TRUE(changeDir(before));
 }
 
 TEST_F(FileOperation, TreesAreDeletedCopiedAndMovedWithoutFollowingLinks)
 {
+#ifdef _WIN32
+    GTEST_SKIP() << "symbolic links are POSIX-only here";
+#else
     // outside/keep must survive everything that happens to the tree.
-    ASSERT_EQ(mkdir(at("outside").c_str(), 0755), 0);
+    ASSERT_EQ(tovutest::makeDir(at("outside")), 0);
     write("outside/keep", "bleibt");
-    ASSERT_EQ(mkdir(at("tree").c_str(), 0755), 0);
-    ASSERT_EQ(mkdir(at("tree/sub").c_str(), 0755), 0);
-    ASSERT_EQ(mkdir(at("tree/sub/deep").c_str(), 0755), 0);
+    ASSERT_EQ(tovutest::makeDir(at("tree")), 0);
+    ASSERT_EQ(tovutest::makeDir(at("tree/sub")), 0);
+    ASSERT_EQ(tovutest::makeDir(at("tree/sub/deep")), 0);
     write("tree/a", "A");
     write("tree/.hidden", "H");
     write("tree/sub/b", std::string("B\0B", 3));
@@ -239,16 +261,20 @@ TEST_F(FileOperation, TreesAreDeletedCopiedAndMovedWithoutFollowingLinks)
     EXPECT_EQ(deleteDirRecursive(at("moved"), true, true), 0);
     EXPECT_FALSE(exists("moved"));
     EXPECT_EQ(read("outside/keep"), "bleibt");
+#endif
 }
 
 TEST_F(FileOperation, ADeepTreeNeedsNoDeepStack)
 {
+#ifdef _WIN32
+    GTEST_SKIP() << "a Windows path stops at MAX_PATH long before 300 levels";
+#endif
     std::string path = at("deep");
-    ASSERT_EQ(mkdir(path.c_str(), 0755), 0);
+    ASSERT_EQ(tovutest::makeDir(path), 0);
     std::string relative = "deep";
     for (int i = 0; i < 300; ++i) {
         relative += "/d";
-        ASSERT_EQ(mkdir(at(relative).c_str(), 0755), 0);
+        ASSERT_EQ(tovutest::makeDir(at(relative)), 0);
     }
     write(relative + "/f", "x");
     EXPECT_EQ(deleteDirRecursive(at("deep"), false, true), 0);

@@ -12,15 +12,25 @@
 #include <log4cpp/PatternLayout.hh>
 #include <log4cpp/StringQueueAppender.hh>
 
+#include "HostPaths.h"
+
 namespace tovutest {
 
 // The messages of "tovu.log" in a directory, without the "<date> : " prefix.
+// On Windows the file is written in text mode: every line must end in CR LF
+// (a line without its CR keeps a visible mark, so the comparison fails).
 inline std::vector<std::string> logMessages(std::string const& directory = ".")
 {
-    std::ifstream in(directory + "/tovu.log", std::ios::binary);
+    std::ifstream in(joinPath(directory, "tovu.log"), std::ios::binary);
     std::vector<std::string> messages;
     std::string line;
     while (std::getline(in, line)) {
+#ifdef _WIN32
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        else
+            line += "<no CR>";
+#endif
         std::string::size_type cut = line.find(" : ");
         messages.push_back(cut == std::string::npos ? line : line.substr(cut + 3));
     }

@@ -1,25 +1,23 @@
 #ifndef TOVU_TESTS_FRAMEWORK_TEMPDIR_H
 #define TOVU_TESTS_FRAMEWORK_TEMPDIR_H
 
-#include <cstdlib>
+#include <filesystem>
 #include <string>
+#include <system_error>
 
-#include <unistd.h>
+#include "HostPaths.h"
 
 namespace tovutest {
 
 // A fresh directory below the working directory, removed with its content.
 class TempDir {
 public:
-    TempDir()
+    TempDir() : path_(makeScratchDir()) {}
+    ~TempDir()
     {
-        char name[] = "tmp_XXXXXX";
-        path_ = std::string(mkdtemp(name));
-        char* cwd = getcwd(nullptr, 0);
-        path_ = std::string(cwd) + "/" + path_;
-        std::free(cwd);
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
     }
-    ~TempDir() { std::system(("rm -rf '" + path_ + "'").c_str()); }
     std::string const& path() const { return path_; }
 
 private:

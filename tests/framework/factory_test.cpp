@@ -43,7 +43,7 @@ TEST(Factory, NamesTheServiceItHandsOutExceptTheSystemProperties)
 TEST(Factory, UnknownTypesGiveNullAndAnErrorLineInTheLogFile)
 {
     tovutest::TempDir dir;
-    Log4cxx::relocateLog("", "", dir.path() + "/");
+    Log4cxx::relocateLog("", "", dir.path() + tovutest::kSep);
     testing::internal::CaptureStdout();
     EXPECT_EQ(UtilServiceFactory::getService(4), nullptr);
     EXPECT_EQ(UtilServiceFactory::getService(-1), nullptr);

@@ -20,7 +20,7 @@ class LoggingTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        Log4cxx::relocateLog("", "", dir_.path() + "/");
+        Log4cxx::relocateLog("", "", dir_.path() + tovutest::kSep);
         logger_ = Logger::getInstance("tovuutil.LoggingTest");
     }
     TempDir dir_;
@@ -57,12 +57,18 @@ TEST_F(LoggingTest, ErrorsGoToTheConsoleAndAreCopiedIntoTheLogFile)
 TEST_F(LoggingTest, LogFileLinesCarryTheDateThenTheMessage)
 {
     logger_->tovuLog("zeile", 99, "", 99);
-    std::string content = tovutest::readFile(dir_.path() + "/tovu.log");
+    std::string content = tovutest::readFile(tovutest::joinPath(dir_.path(), "tovu.log"));
     // "%d : %m%n" with log4cpp's ISO date: "YYYY-MM-DD hh:mm:ss,mmm : zeile\n"
-    ASSERT_EQ(content.size(), 23u + 3u + 5u + 1u);
+    // (a text-mode file on Windows: CR LF)
+#ifdef _WIN32
+    std::string const lineEnd = "\r\n";
+#else
+    std::string const lineEnd = "\n";
+#endif
+    ASSERT_EQ(content.size(), 23u + 3u + 5u + lineEnd.size());
     EXPECT_EQ(content.substr(4, 1), "-");
     EXPECT_EQ(content.substr(19, 1), ",");
-    EXPECT_EQ(content.substr(23), " : zeile\n");
+    EXPECT_EQ(content.substr(23), " : zeile" + lineEnd);
 }
 
 TEST_F(LoggingTest, DefaultLevelsAndAppenders)
@@ -154,8 +160,8 @@ TEST(Relocation, MovesTheLogFileAndDeletesTheOldOne)
 {
     TempDir first;
     TempDir second;
-    std::string const firstDir = first.path() + "/";
-    std::string const secondDir = second.path() + "/";
+    std::string const firstDir = first.path() + tovutest::kSep;
+    std::string const secondDir = second.path() + tovutest::kSep;
     Logger* logger = Logger::getInstance("tovuutil.Relocation");
 
     Log4cxx::relocateLog("", "", firstDir);
@@ -179,8 +185,8 @@ TEST(Relocation, FromNowhereReconfiguresButDeletesNothing)
     TempDir dir;
     std::string const start = Log4cxx::getLogDirectory();
     Logger::getInstance("tovuutil.Relocation")->tovuLog("vorher", 99, "", 99);
-    Log4cxx::relocateLog("", "", dir.path() + "/");
-    EXPECT_EQ(access((start + "/tovu.log").c_str(), F_OK), 0);
+    Log4cxx::relocateLog("", "", dir.path() + tovutest::kSep);
+    EXPECT_EQ(access((start + tovutest::kSepText + "tovu.log").c_str(), F_OK), 0);
     Logger::getInstance("tovuutil.Relocation")->tovuLog("danach", 99, "", 99);
     EXPECT_EQ(logMessages(dir.path()), (std::vector<std::string>{"danach"}));
 }

@@ -82,7 +82,7 @@ TEST(HostDialogs, MessageBoxCallsTheHostAndLogsCaptionFirst)
 TEST(HostDialogs, AThrowingCallbackGivesZeroAndAnErrorLine)
 {
     tovutest::TempDir dir;
-    log4cxx::Log4cxx::relocateLog("", "", dir.path() + "/");
+    log4cxx::Log4cxx::relocateLog("", "", dir.path() + tovutest::kSep);
     gui()->registerMessageBox(throwingMessage);
     testing::internal::CaptureStdout();
     EXPECT_EQ(messageBox("m", "c", 0), 0);
@@ -132,7 +132,7 @@ TEST(HostDialogs, TheTestSwitchInTdfDiiTurnsDialogsOff)
     tovutest::TempDir home;
     auto* system = static_cast<SystemPropertiesService*>(UtilServiceFactory::getService(0));
     ASSERT_EQ(system->setIniHome(home.path()), 0);
-    std::FILE* file = std::fopen((home.path() + "/tdf.dii").c_str(), "wb");
+    std::FILE* file = std::fopen((home.path() + tovutest::kSep + "tdf.dii").c_str(), "wb");
     ASSERT_NE(file, nullptr);
     std::fputs("[TEST]\r\nNO_DIALOG=TRUE\r\n", file);
     std::fclose(file);

@@ -5,6 +5,7 @@
 
 #include <tovuutil/tovuutil.h>
 
+#include "HostPaths.h"
 #include "framework/TempDir.h"
 
 TEST(VersionInfo, OwnVersionTexts)
@@ -21,7 +22,7 @@ TEST(VersionInfo, OwnVersionTexts)
 TEST(VersionInfo, FilesWithoutVersionBlock)
 {
     tovutest::TempDir dir;
-    std::string const plain = dir.path() + "/libplain.so";
+    std::string const plain = tovutest::joinPath(dir.path(), "libplain.so");
     std::ofstream(plain) << "not a library";
     std::string product, file;
     getSharedLibVersionInfo(plain, product, file);
@@ -32,6 +33,18 @@ TEST(VersionInfo, FilesWithoutVersionBlock)
     EXPECT_EQ(product, "missing.so.1 nicht gefunden oder kein Versionsinfoblock");
 }
 
+#ifdef _WIN32
+TEST(VersionInfo, SystemLibrariesReportTheirVersionResource)
+{
+    std::string product, file;
+    getSharedLibVersionInfo("kernel32.dll", product, file);
+    unsigned short a = 0, b = 0, c = 0, d = 0;
+    std::string rest;
+    EXPECT_EQ(splitVersionInfo(file, &a, &b, &c, &d, rest), 4) << file;
+    EXPECT_GE(a, 5);
+    EXPECT_EQ(splitVersionInfo(product, &a, &b, &c, &d, rest), 4) << product;
+}
+#else
 TEST(VersionInfo, VersionedLibrariesReportTheirNumberThroughLinks)
 {
     tovutest::TempDir dir;
@@ -49,6 +62,7 @@ TEST(VersionInfo, VersionedLibrariesReportTheirNumberThroughLinks)
     getSharedLibVersionInfo(odd, product, file);
     EXPECT_EQ(product, odd + " nicht gefunden oder kein Versionsinfoblock");
 }
+#endif
 
 TEST(VersionInfo, NumericSplit)
 {

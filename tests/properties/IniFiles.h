@@ -20,7 +20,7 @@ inline void writeBytes(std::string const& path, std::string const& bytes)
 struct LoadedIni {
     explicit LoadedIni(std::string const& bytes)
     {
-        path = dir.path() + "/t.ini";
+        path = dir.path() + tovutest::kSep + "t.ini";
         writeBytes(path, bytes);
         ini.Open(path.c_str());
         ini.Load();

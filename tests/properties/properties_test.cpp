@@ -10,9 +10,9 @@ class PropertiesFile : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        log4cxx::Log4cxx::relocateLog("", "", dir_.path() + "/");
+        log4cxx::Log4cxx::relocateLog("", "", dir_.path() + tovutest::kSep);
     }
-    std::string at(std::string const& name) { return dir_.path() + "/" + name; }
+    std::string at(std::string const& name) { return dir_.path() + tovutest::kSep + name; }
     tovutest::TempDir dir_;
 };
 } // namespace

@@ -8,26 +8,27 @@
 
 #include <cstdlib>
 #include <string>
-#include <unistd.h>
 #include <utility>
 #include <vector>
 
 #include <tovuutil/tovuutil.h>
 
+#include "HostPaths.h"
 #include "sysprops/HostCommand.h"
+
+// Wine sets SystemRoot and TEMP itself and the homes below are POSIX paths:
+// the environment these checks prepare does not reach a Windows program.
+#ifdef _WIN32
+#define TOVU_SKIP_LOAD_TIME_HOMES_UNDER_WINE() \
+    GTEST_SKIP() << "the prepared environment (SystemRoot, TEMP, POSIX homes) does not reach a Windows program"
+#else
+#define TOVU_SKIP_LOAD_TIME_HOMES_UNDER_WINE() (void)0
+#endif
 
 namespace tovutest {
 
 // The configured scratch homes (see CMakeLists.txt).
 inline std::string homes(char const* name) { return std::string(TOVU_TEST_HOMES) + "/" + name; }
-
-inline std::string workingDirectory()
-{
-    char* cwd = getcwd(nullptr, 0);
-    std::string dir(cwd ? cwd : "");
-    std::free(cwd);
-    return dir;
-}
 
 // Keys in the order of filling, with the five homes as given.
 inline std::vector<std::pair<std::string, std::string>> expectedTable(std::string const& ini, std::string const& temp,

@@ -7,6 +7,7 @@ using namespace tovutest;
 
 TEST(LoadTime, HomesFromTovuHomeAndTmp)
 {
+    TOVU_SKIP_LOAD_TIME_HOMES_UNDER_WINE();
     std::string const tovu = homes("tovu");
     EXPECT_EQ(expectedTable(tovu, homes("tmp"), tovu, ""), actualTable());
     EXPECT_EQ(tovu, getSystemPropertyIniHome());

@@ -12,6 +12,9 @@ using tovutest::hostCommand;
 
 TEST(NetworkIdentity, ComputerNameAndAddress)
 {
+#ifdef _WIN32
+    GTEST_SKIP() << "the expectations come from POSIX host commands (hostname, ip, /sys)";
+#endif
     EXPECT_EQ(hostCommand("hostname"), getLocalComputerName());
 
     std::string ip = getLocalIPAddress();
@@ -28,6 +31,9 @@ TEST(NetworkIdentity, ComputerNameAndAddress)
 
 TEST(NetworkIdentity, MacAddressInDecimalGroups)
 {
+#ifdef _WIN32
+    GTEST_SKIP() << "the expectations come from POSIX host commands (hostname, ip, /sys)";
+#endif
     std::string mac = MacRetriever().getMacAddress();
     ASSERT_TRUE(std::regex_match(mac, std::regex("(0\\d|0\\d\\d|1[6-9]|[2-9]\\d|\\d{3})(\\.(0\\d|0\\d\\d|1[6-9]|[2-9]\\d|\\d{3})){5}")))
         << mac;

@@ -38,7 +38,7 @@ bool exists(std::string const& path)
 class PropertiesServiceTest : public ::testing::Test {
 protected:
     void SetUp() override { ASSERT_EQ(0, setSystemPropertyIniHome(home_.path())); }
-    std::string inHome(std::string const& name) const { return home_.path() + "/" + name; }
+    std::string inHome(std::string const& name) const { return home_.path() + tovutest::kSep + name; }
     std::string const& home() const { return home_.path(); }
 
 private:
@@ -57,8 +57,8 @@ TEST_F(PropertiesServiceTest, BareAndRelativeNames)
     // With a directory part the name is taken relative to the working directory.
     TempDir local;
     std::string const relative = local.path().substr(tovutest::workingDirectory().size() + 1);
-    writeFile(local.path() + "/a.ini", "[S]\r\nk=lokal\r\n");
-    EXPECT_EQ(local.path() + "/a.ini", s->loadProperties(relative + "\\a.ini"));
+    writeFile(local.path() + tovutest::kSepText + "a.ini", "[S]\r\nk=lokal\r\n");
+    EXPECT_EQ(local.path() + tovutest::kSepText + "a.ini", s->loadProperties(relative + "\\a.ini"));
     EXPECT_EQ("lokal", s->getProperty(relative + "\\a.ini", "S.k"));
     EXPECT_EQ("lokal", s->getProperty(relative + "/a.ini", "S.k"));
     EXPECT_EQ("im home", s->getProperty(inHome("a.ini"), "S.k"));
@@ -93,9 +93,9 @@ TEST_F(PropertiesServiceTest, DefaultFilesAreCreatedInTheIniHome)
     // Any name ending in the default name creates the default file in the
     // INI home; the file asked for is loaded as named.
     TempDir local;
-    EXPECT_EQ(local.path() + "/xtdf.dii", s->loadProperties(local.path() + "/xtdf.dii"));
+    EXPECT_EQ(local.path() + tovutest::kSepText + "xtdf.dii", s->loadProperties(local.path() + tovutest::kSepText + "xtdf.dii"));
     EXPECT_TRUE(exists(inHome("tdf.dii")));
-    EXPECT_FALSE(exists(local.path() + "/xtdf.dii"));
+    EXPECT_FALSE(exists(local.path() + tovutest::kSepText + "xtdf.dii"));
 
     // An existing default file is left as it is.
     writeFile(inHome("tdf.dii"), "[TEST]\r\nNO_DIALOG=TRUE\r\n");

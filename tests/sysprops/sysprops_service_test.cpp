@@ -73,7 +73,7 @@ TEST(SystemProperties, ListingInTableOrderWithDottedNames)
 TEST(SystemProperties, HomeSettersReturnCodes)
 {
     TempDir dir;
-    std::string const missing = dir.path() + "/nicht/da";
+    std::string const missing = dir.path() + tovutest::hostPath("/nicht/da");
     using Setter = int (*)(std::string const&);
     using Getter = std::string (*)();
     std::pair<Setter, Getter> const homes[] = {
@@ -88,7 +88,7 @@ TEST(SystemProperties, HomeSettersReturnCodes)
         EXPECT_EQ(1, home.first(missing));
         EXPECT_EQ(old, home.second());
         // Stored without one trailing separator; nothing is created.
-        EXPECT_EQ(0, home.first(dir.path() + "/"));
+        EXPECT_EQ(0, home.first(dir.path() + tovutest::kSep));
         EXPECT_EQ(dir.path(), home.second());
         struct stat info;
         EXPECT_NE(0, stat(missing.c_str(), &info));
@@ -112,7 +112,7 @@ TEST(SystemProperties, SettingTheLogHomeMovesTheLogFile)
     EXPECT_EQ(std::vector<std::string>{"in der ersten"}, tovutest::logMessages(first.path()));
 
     // The same directory again changes nothing.
-    ASSERT_EQ(0, setSystemPropertyLogHome(first.path() + "/"));
+    ASSERT_EQ(0, setSystemPropertyLogHome(first.path() + tovutest::kSep));
     logger->error("noch in der ersten");
     EXPECT_EQ((std::vector<std::string>{"in der ersten", "noch in der ersten"}),
               tovutest::logMessages(first.path()));
@@ -120,12 +120,12 @@ TEST(SystemProperties, SettingTheLogHomeMovesTheLogFile)
     ASSERT_EQ(0, setSystemPropertyLogHome(second.path()));
     logger->error("in der zweiten");
     struct stat info;
-    EXPECT_NE(0, stat((first.path() + "/tovu.log").c_str(), &info));
+    EXPECT_NE(0, stat((first.path() + tovutest::kSepText + "tovu.log").c_str(), &info));
     EXPECT_EQ(std::vector<std::string>{"in der zweiten"}, tovutest::logMessages(second.path()));
     EXPECT_EQ(second.path(), getSystemPropertyLogHome());
 
     // A failed setter leaves the log where it is.
-    EXPECT_EQ(1, setSystemPropertyLogHome(first.path() + "/weg"));
+    EXPECT_EQ(1, setSystemPropertyLogHome(first.path() + tovutest::kSepText + "weg"));
     EXPECT_EQ(second.path(), log4cxx::Log4cxx::getLogDirectory());
 }
 

@@ -41,8 +41,14 @@ expect 1 $'12: valid\n13: invalid\n  4: month not in 1..12\n1: invalid\n  1: wro
 # UTF-8 from the terminal reaches the check as one byte per character: "ö1.01."
 # has the length of "DD.MM." and fails on its shape, not on its length; a
 # Windows-1252 byte passes unchanged.
-expect 1 $'\xc3\xb61.01.: invalid\n  2: wrong shape: a digit or separator out of place\n' "" check T $'\xc3\xb61.01.'
-expect 1 $'\xf61.01.: invalid\n  2: wrong shape: a digit or separator out of place\n' "" check T $'\xf61.01.'
+# Under Wine the arguments reach a Windows program in its ANSI code page: the
+# UTF-8 "ö" arrives as the single byte F6, and a lone F6 cannot be passed at all.
+if [ -n "${TOVU_TEST_WINDOWS:-}" ]; then
+    expect 1 $'\xf61.01.: invalid\n  2: wrong shape: a digit or separator out of place\n' "" check T $'\xc3\xb61.01.'
+else
+    expect 1 $'\xc3\xb61.01.: invalid\n  2: wrong shape: a digit or separator out of place\n' "" check T $'\xc3\xb61.01.'
+    expect 1 $'\xf61.01.: invalid\n  2: wrong shape: a digit or separator out of place\n' "" check T $'\xf61.01.'
+fi
 
 # The command line itself is wrong.
 hint=$'\nTry \'tovu check --help\'.\n'

@@ -47,8 +47,9 @@ for codec in base16 base32 base64; do
         { echo "FAILED: all bytes wrapped through $codec"; failures=$((failures + 1)); }
 done
 
-# A full device is reported; a reader that goes away is not.
-if [ -w /dev/full ]; then
+# A full device is reported; a reader that goes away is not. (Under Wine the
+# line-end wrapper owns tovu's output, so the device is not tovu's to fill.)
+if [ -w /dev/full ] && [ -z "${TOVU_TEST_WINDOWS:-}" ]; then
     "$TOVU" encode base64 <"$scratch/bytes" >/dev/full 2>"$scratch/full"
     [ "$(cat "$scratch/full")" = "tovu: encode: write error: No space left on device" ] ||
         { echo "FAILED: /dev/full"; failures=$((failures + 1)); }
@@ -60,10 +61,13 @@ head -c 8M /dev/zero | "$TOVU" encode base64 2>"$scratch/pipe" | head -c1 >/dev/
 # process held to 32 MiB of address space.
 size=1G limit="ulimit -v 32768"
 [ -n "${TOVU_SANITIZED:-}" ] && size=64M limit=":"
+# Wine reserves its address space up front: no limit, a smaller stream.
+[ -n "${TOVU_TEST_WINDOWS:-}" ] && size=64M limit=":"
 mkfifo "$scratch/copy"
 md5sum <"$scratch/copy" >"$scratch/sent" &
 received=$(head -c $size /dev/urandom | tee "$scratch/copy" |
-    (eval "$limit" && exec "$TOVU" encode base64) | (eval "$limit" && exec "$TOVU" decode base64) | md5sum)
+    (eval "$limit" && export TOVU_RAW_OUTPUT=1 && exec "$TOVU" encode base64) |
+    (eval "$limit" && export TOVU_RAW_OUTPUT=1 && exec "$TOVU" decode base64) | md5sum)
 wait
 [ "$received" = "$(cat "$scratch/sent")" ] || { echo "FAILED: $size round trip"; failures=$((failures + 1)); }
 finish

@@ -23,9 +23,12 @@ expect 2 "" $'tovu: ini: \'PORT\' is not of the form SECTION.KEY\nTry \'tovu ini
 expect 2 "" $'tovu: ini: usage: set FILE SECTION.KEY VALUE\nTry \'tovu ini --help\'.\n' ini set app.ini A.B
 expect 2 "" $'tovu: ini: unknown action \'drop\'\nTry \'tovu ini --help\'.\n' ini drop app.ini
 
-# Windows-1252 bytes that are not UTF-8 pass through as they are.
-expect 0 "" "" ini set app.ini DB.NAME $'M\374nchen'
-expect 0 $'München\n' "" ini get app.ini DB.NAME
+# Windows-1252 bytes that are not UTF-8 pass through as they are (Wine cannot
+# pass such an argument to a Windows program).
+if [ -z "${TOVU_TEST_WINDOWS:-}" ]; then
+    expect 0 "" "" ini set app.ini DB.NAME $'M\374nchen'
+    expect 0 $'München\n' "" ini get app.ini DB.NAME
+fi
 
 # The system's reason, as a user whom the permissions apply to.
 chmod 711 "$scratch"

@@ -37,7 +37,12 @@ int main()
         return 3;
     gui->unregisterMessageBox();
 
-    auto cosine = reinterpret_cast<double (*)(double)>(libraries->getSymbol("libm.so.6", "cos"));
+#ifdef _WIN32
+    char const* const mathLibrary = "msvcrt.dll";
+#else
+    char const* const mathLibrary = "libm.so.6";
+#endif
+    auto cosine = reinterpret_cast<double (*)(double)>(libraries->getSymbol(mathLibrary, "cos"));
     if (cosine == nullptr || cosine(0.0) != 1.0)
         return 4;
 
