@@ -10,6 +10,7 @@
 
 #include <tovuutil/tovuutil.h>
 
+#include "HostPaths.h"
 #include "framework/LogCapture.h"
 #include "framework/TempDir.h"
 #include "sysprops/LoadTime.h"
@@ -240,7 +241,7 @@ TEST_F(PropertiesServiceTest, BareNamesFollowTheIniHomeAndStillLogWhenAsked)
     log4cpp::Category::getInstance("tovuutil.PropertiesFileResourceManager").setPriority(log4cpp::Priority::DEBUG);
     CapturedLog log("tovuutil.PropertiesFileResourceManager");
     EXPECT_EQ("zwei", s->getProperty("a.ini", "S.k"));
-    std::string const key = other.path() + "/a.ini";
+    std::string const key = other.path() + tovutest::kSepText + "a.ini";
     EXPECT_EQ((std::vector<std::string>{"Begin Method: tovuutil.PropertiesFileResourceManager::getFileName(a.ini)",
                                         "getFileName result:" + key,
                                         "End Method  : tovuutil.PropertiesFileResourceManager::getFileName(a.ini)"}),

@@ -16,8 +16,10 @@ expect 0 $'SERVER\nDB\n' "" ini sections app.ini
 expect 1 "" $'tovu: ini: app.ini: no value for \'DB.PASSWORD\'\n' ini get app.ini DB.PASSWORD
 expect 1 "" $'tovu: ini: missing.ini: No such file or directory\n' ini get missing.ini A.B
 mkdir folder.ini
-expect 1 "" $'tovu: ini: folder.ini: Is a directory\n' ini get folder.ini A.B
-expect 1 "" $'tovu: ini: folder.ini: Is a directory\n' ini set folder.ini A.B c
+# Windows' C runtime answers EACCES for a directory.
+directory=$([ -n "${TOVU_TEST_WINDOWS:-}" ] && echo "Permission denied" || echo "Is a directory")
+expect 1 "" "tovu: ini: folder.ini: $directory"$'\n' ini get folder.ini A.B
+expect 1 "" "tovu: ini: folder.ini: $directory"$'\n' ini set folder.ini A.B c
 expect 2 "" $'tovu: ini: unknown option \'--force\'\nTry \'tovu ini --help\'.\n' ini set --force app.ini A.B c
 expect 2 "" $'tovu: ini: \'PORT\' is not of the form SECTION.KEY\nTry \'tovu ini --help\'.\n' ini get app.ini PORT
 expect 2 "" $'tovu: ini: usage: set FILE SECTION.KEY VALUE\nTry \'tovu ini --help\'.\n' ini set app.ini A.B
@@ -28,17 +30,19 @@ expect 2 "" $'tovu: ini: unknown action \'drop\'\nTry \'tovu ini --help\'.\n' in
 if [ -z "${TOVU_TEST_WINDOWS:-}" ]; then
     expect 0 "" "" ini set app.ini DB.NAME $'M\374nchen'
     expect 0 $'München\n' "" ini get app.ini DB.NAME
+else
+    printf '[SERVER]\r\nPORT=8081\r\nCITY=K\366ln\r\n[DB]\r\nUSER=me\r\nNAME=M\374nchen\r\n' >app.ini
 fi
 
 # The system's reason, as a user whom the permissions apply to.
 chmod 711 "$scratch"
 printf '[A]\r\nB=c\r\n' >secret.ini && chmod 600 secret.ini
-if as_user true; then
+if [ -z "${TOVU_TEST_WINDOWS:-}" ] && as_user true; then
     as_user "$TOVU" ini get "$scratch/secret.ini" A.B >out 2>err
     check "unreadable file: status" [ $? = 1 ]
     check "unreadable file: reason" grep -qx "tovu: ini: $scratch/secret.ini: Permission denied" err
 else
-    echo "skipped: the permission test needs an unprivileged user (setpriv)"
+    echo "skipped: the permission test needs POSIX permissions and an unprivileged user (setpriv)"
 fi
 
 # Standard input for reading; never for changing.

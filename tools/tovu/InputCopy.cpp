@@ -5,6 +5,10 @@
 #include <cstring>
 #include <filesystem>
 #include <random>
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#endif
 
 namespace tovu::cli {
 
@@ -30,6 +34,9 @@ bool InputCopy::make(std::string& path, std::string& reason)
         path_.clear();
         return false;
     }
+#ifdef _WIN32
+    _setmode(_fileno(stdin), _O_BINARY); // the bytes as they are, CR LF included
+#endif
     char buffer[65536];
     std::size_t got;
     bool ok = true;
