@@ -31,11 +31,17 @@ public:
     SimpleDate(int day, int month, int year);
     ~SimpleDate() {}
 
+    // The day as stored, valid or not.
     int getDay() const { return day_; }
+    // The month as stored, valid or not.
     int getMonth() const { return month_; }
+    // The year as stored, valid or not.
     int getYear() const { return year_; }
+    // Stores the day unchecked.
     void setDay(int day) { day_ = day; }
+    // Stores the month unchecked.
     void setMonth(int month) { month_ = month; }
+    // Stores the year unchecked.
     void setYear(int year) { year_ = year; }
 
     // initNow()
@@ -52,7 +58,9 @@ public:
     // Example: initFormatE("24.12.23") gives 24.12.2023;
     //          initFormatT("29.02.", 2023) gives an invalid date.
     bool initFormatD(std::string const& text);
+    // "DD.MM.YY", the year widened by expandYear(); false for another shape.
     bool initFormatE(std::string const& text);
+    // "DD.MM." with the year given; false for another shape.
     bool initFormatT(std::string const& text, int year);
 
     // expandYear()
@@ -72,6 +80,7 @@ public:
     // The Gregorian rules: a year divisible by 4 and not by 100, or by 400.
     // daysInMonth() is 28..31, or 0 for a month outside 1..12.
     static bool isLeapYear(int year);
+    // The month's length in that year, 28..31; 0 for a month outside 1..12.
     static int daysInMonth(int month, int year);
 
     // getValue()
@@ -88,7 +97,9 @@ public:
     // 3652059. getDayNumber() of an invalid date is 0; setting a number
     // outside 1..3652059 sets 0.0.0.
     long getDayNumber() const;
+    // Sets the date of that day number; 0.0.0 outside 1..3652059.
     void setDayNumber(long dayNumber);
+    // A new date set by setDayNumber(dayNumber).
     static SimpleDate fromDayNumber(long dayNumber);
 
     // addDays(), addMonths(), addYears()
@@ -100,7 +111,9 @@ public:
     // false, and the date unchanged, when the date is invalid or the result
     // would leave the years 1..9999.
     bool addDays(long days);
+    // Calendar months, the day clamped to the month's end; false if unchanged.
     bool addMonths(long months);
+    // Calendar years, 29.02. clamped to 28.02.; false if unchanged.
     bool addYears(long years);
 
     // daysUntil()
@@ -118,16 +131,24 @@ public:
     // to. Each is -1 for an invalid date.
     // Example: 01.01.2021 is a Friday (4) in week 53 of 2020.
     int getDayOfWeek() const;
+    // The day of the year, 1..366; -1 for an invalid date.
     int getDayOfYear() const;
+    // The ISO 8601 week, 1..53; -1 for an invalid date.
     int getIsoWeek() const;
+    // The year the ISO week belongs to; -1 for an invalid date.
     int getIsoWeekYear() const;
 
     // Comparisons of getValue() of both sides.
     bool operator>(SimpleDate const& other) const;
+    // getValue() >= other.getValue().
     bool operator>=(SimpleDate const& other) const;
+    // getValue() <= other.getValue().
     bool operator<=(SimpleDate const& other) const;
+    // getValue() < other.getValue().
     bool operator<(SimpleDate const& other) const;
+    // getValue() == other.getValue(): all dates whose value is -1 are equal.
     bool operator==(SimpleDate const& other) const;
+    // getValue() != other.getValue().
     bool operator!=(SimpleDate const& other) const;
 
     // "%d.%m.%Y".

@@ -28,9 +28,13 @@ public:
     TovuDate(SimpleDate const& date, SimpleTime const& time);
     ~TovuDate() {}
 
+    // The date part, valid or not.
     SimpleDate const& getDate() const { return date_; }
+    // The time part, valid or not.
     SimpleTime const& getTime() const { return time_; }
+    // Replaces the date part unchecked.
     void setDate(SimpleDate const& date) { date_ = date; }
+    // Replaces the time part unchecked.
     void setTime(SimpleTime const& time) { time_ = time; }
 
     // initNow()
@@ -48,6 +52,7 @@ public:
     // is false.
     bool initFormatD(std::string const& text);
 
+    // A valid date and every time field in range, as stated above.
     bool isValid() const;
 
     // getValue()
@@ -68,6 +73,7 @@ public:
     // when the date-time is invalid or the result would leave the years
     // 1..9999.
     bool add(int hours, int minutes, int seconds, int milliSeconds);
+    // Moves back by the duration; the date follows past midnight (see add).
     bool subtract(int hours, int minutes, int seconds, int milliSeconds);
 
     // milliSecondsUntil()
@@ -79,10 +85,15 @@ public:
     // Comparisons of the date, then of the time (the operators of
     // SimpleDate and SimpleTime).
     bool operator>(TovuDate const& other) const;
+    // Not earlier: !(*this < other).
     bool operator>=(TovuDate const& other) const;
+    // Not later: !(other < *this).
     bool operator<=(TovuDate const& other) const;
+    // An earlier date, or the same date and an earlier time.
     bool operator<(TovuDate const& other) const;
+    // The same date and the same time.
     bool operator==(TovuDate const& other) const;
+    // !(*this == other).
     bool operator!=(TovuDate const& other) const;
 
     // "%d.%m.%Y %H:%M:%S".

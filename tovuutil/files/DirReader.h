@@ -23,16 +23,24 @@ class Logger;
 class TOVU_API DirReader {
 public:
     DirReader();
+    // Reads path (separators converted for the host) with the pattern at once.
     DirReader(std::string const& path, std::string const& pattern);
+    // Copies the path and both lists.
     DirReader(DirReader const& other);
+    // Copies the path and both lists.
     DirReader& operator=(DirReader const& other);
     virtual ~DirReader();
 
+    // The directory for the next scan, taken as given (no separator
+    // conversion); an empty path means the current directory. Lists unchanged.
     void setPath(std::string const& path);
     // Re-reads the directory: the lists are replaced, not extended.
     void scan(std::string const& pattern);
+    // A copy of the file names of the last scan.
     std::list<std::string> getFiles() const;
+    // A copy of the subdirectory names of the last scan.
     std::list<std::string> getDirectories() const;
+    // Empties both lists; the path stays.
     void clear();
     // Both lists at debug level.
     void logContent();

@@ -31,14 +31,19 @@ namespace log4cxx {
 // log4cpp's own and never while a logger of this library is being created.
 class TOVU_API Log4cxx {
 public:
+    // Builds the default set-up if needed, then binds the category "name".
     explicit Log4cxx(std::string const& name);
+    // Copies share the same category.
     Log4cxx(Log4cxx const&) = default;
+    // Takes over the other object's name and category.
     Log4cxx& operator=(Log4cxx const&) = default;
     virtual ~Log4cxx();
 
     // A new facade object for the category; the caller owns it.
     static Log4cxx* getLog4cxx(std::string const& name);
+    // A new facade object for the category "root"; the caller owns it.
     static Log4cxx* getLog4cxx();
+    // Same as getLog4cxx(): the category named "root"; the caller owns it.
     static Log4cxx* getRootLog4cxx();
 
     // True once the default configuration has been built.
@@ -52,35 +57,60 @@ public:
     // The directory that holds "tovu.log".
     static std::string getLogDirectory();
 
+    // The category name given at construction.
     std::string getName() const;
+    // log4cpp's root category, whatever this object's own category is.
     log4cpp::Category& getCategory();
+    // The log4cpp category of that name, created if it does not exist yet.
     log4cpp::Category& getCategory(std::string const& name);
+    // The appender of that name attached to the category itself (an empty
+    // category means root); null when it has none by that name.
     log4cpp::Appender* getAppender(std::string const& category, std::string const& appender);
+    // Despite the name, looks in this object's own category, as getAppender(getName(), appender).
     log4cpp::Appender* getRootAppender(std::string const& appender);
     // Gives the root category's appender a new pattern layout; unknown names are ignored.
     void setLayout(std::string const& appender, std::string const& pattern);
 
+    // Whether this object's category logs at DEBUG.
     bool isDebugEnabled() const;
+    // Whether this object's category logs at INFO.
     bool isInfoEnabled() const;
+    // Whether this object's category logs at NOTICE.
     bool isNoticeEnabled() const;
+    // Whether this object's category logs at WARN.
     bool isWarnEnabled() const;
+    // Whether this object's category logs at ERROR.
     bool isErrorEnabled() const;
+    // Whether this object's category logs at FATAL.
     bool isFatalEnabled() const;
 
+    // Logs at DEBUG in this object's category; nothing when the level is off.
     void debug(std::string const& message);
+    // Logs at INFO in this object's category; nothing when the level is off.
     void info(std::string const& message);
+    // Logs at NOTICE in this object's category; nothing when the level is off.
     void notice(std::string const& message);
+    // Logs at WARN in this object's category; nothing when the level is off.
     void warn(std::string const& message);
+    // Logs at ERROR in this object's category and, only then, copies the
+    // message at DEBUG into "tovuLog".
     void error(std::string const& message);
+    // Logs at FATAL in this object's category; nothing when the level is off.
     void fatal(std::string const& message);
 
     // DEBUG markers "<prefix><category>::<method>"; the prefixes' trailing
     // blanks align the colons.
+    // Writes "Begin Method: <category>::<method>".
     void beginMethod(std::string const& method);
+    // Writes "End Method  : <category>::<method>".
     void endMethod(std::string const& method);
+    // Writes "Begin Construct: <category>::<method>".
     void beginConstruct(std::string const& method);
+    // Writes "End Construct  : <category>::<method>".
     void endConstruct(std::string const& method);
+    // Writes "Begin Destruct : <category>::<method>".
     void beginDestruct(std::string const& method);
+    // Writes "End Destruct   : <category>::<method>".
     void endDestruct(std::string const& method);
 
     // The structured line at DEBUG on "tovuLog": message, then for each given
@@ -91,6 +121,7 @@ public:
     void tovuLog(std::string const& message, short level, std::string const& text, int returnCode);
     // Null pointers print as "NULL".
     void tovuLog(char const* message, short level, char const* text, int returnCode);
+    // Another name for tovuLog with the same arguments.
     void doLogMe(std::string const& message, short level, std::string const& text, int returnCode);
 
 private:

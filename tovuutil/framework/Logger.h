@@ -14,9 +14,13 @@
 // building a message string.
 class TOVU_API Logger : public log4cxx::Log4cxx {
 public:
+    // The logger of the category "name", created and registered with the
+    // lifetime manager on first request; never null. The manager owns it.
     static Logger* getInstance(std::string const& name);
 
+    // A copy is not registered: its owner deletes it.
     Logger(Logger const&) = default;
+    // Takes over the other logger's name and category.
     Logger& operator=(Logger const&) = default;
     virtual ~Logger();
 

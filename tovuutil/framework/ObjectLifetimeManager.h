@@ -26,16 +26,23 @@ enum Preallocated_Object {
 // 3 shutting down, 4 shut down. States never go back.
 class TOVU_API ObjectLifetimeManagerBase {
 public:
+    // Starts the manager; see ObjectLifetimeManager::startup for the codes.
     virtual int startup() = 0;
+    // Shuts the manager down; see ObjectLifetimeManager::shutdown for the codes.
     virtual int shutdown() = 0;
     virtual ~ObjectLifetimeManagerBase();
 
 protected:
     ObjectLifetimeManagerBase();
+    // 1 while constructed or starting up (state below 2), else 0.
     int starting_up_i() const { return object_state_ < 2; }
+    // 1 once shutting down or shut down (state above 2), else 0.
     int shutting_down_i() const { return object_state_ > 2; }
 
+    // The state, 0 to 4 as listed above.
     int object_state_;
+    // 1 when the manager was created by instance() and deletes itself at the
+    // end of its shutdown; 0 otherwise (and once its destructor runs).
     int dynamically_allocated_;
 };
 
@@ -73,18 +80,31 @@ public:
     // The one manager; creates (and starts) a new one when none exists. A
     // manager created here deletes itself at the end of its shutdown.
     static ObjectLifetimeManager* instance();
+    // instance()->startup(): creates the manager if needed and starts it.
     static void init();
+    // instance()->shutdown(); without a manager, one is created first.
     static void fini();
     // 1 without a manager or before it runs, else 0.
     static int starting_up();
     // 1 without a manager or once it shuts down, else 0.
     static int shutting_down();
 
+    // Creates the registries and the services; 0 when done, or at once (and
+    // without services) on a manager that is not the instance; 1 when it has
+    // already run, is shutting down or has shut down.
     int startup() override;
+    // Deletes client objects, services and loggers in the order above (only
+    // on the instance); 0 when done, 1 if already shut down, -1 while a
+    // shutdown runs. A manager made by instance() deletes itself.
     int shutdown() override;
 
+    // Takes ownership of the object and deletes it at shutdown. Before
+    // start-up, when there is no registry yet, the object is deleted at once.
     void addObject(std::string const& name, ManagedTovuObject* object);
+    // The object first added under the name, or null (also before start-up).
     ManagedTovuObject* getObject(std::string const& name);
+    // Takes ownership of the logger as addObject does; deleted with the
+    // loggers at shutdown, or at once before start-up.
     void addLogger(std::string const& name, Logger* logger);
     // The second argument is ignored.
     Logger* getLogger(std::string const& name, Logger* unused = nullptr);
@@ -94,7 +114,9 @@ public:
     // that runs start-up and shutdown; other threads use getService.
     static void* getPreAllocatedObject(Preallocated_Object which);
 
+    // Registry by name; with a name given twice, the first entry.
     typedef std::map<std::string, CleanupAdapter*> AdapterMap;
+    // Every registered adapter in the order added, which owns the objects.
     typedef std::list<CleanupAdapter*> AdapterList;
 
 private:

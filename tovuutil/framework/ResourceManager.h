@@ -24,9 +24,12 @@ class ResourceCache;
 class TOVU_API Resource {
 public:
     Resource() = default;
+    // Resources are copyable; the base holds no state.
     Resource(Resource const&) = default;
+    // Resources are assignable; the base holds no state.
     Resource& operator=(Resource const&) = default;
     virtual ~Resource();
+    // The resource's name, as shown by ResourceManager::logResources.
     virtual std::string getName() = 0;
 };
 
@@ -43,6 +46,7 @@ public:
 // that keeps the object alive across a concurrent removal.
 class TOVU_API ResourceManager {
 public:
+    // Canonical key to cached object; the map owns the objects.
     typedef std::map<std::string, Resource*> ResourceMap;
 
     ResourceManager();
@@ -51,7 +55,9 @@ public:
     virtual Resource* load(std::string const& key) = 0;
     // Called on removal before the object is destroyed.
     virtual bool unload(std::string const& key) = 0;
+    // The canonical key of a name; getResource and removeResource look up by it.
     virtual std::string getFileName(std::string const& name) = 0;
+    // The manager class's one process-wide map, shared by all its instances.
     virtual ResourceMap& getResourceMap() = 0;
     virtual ~ResourceManager();
 
@@ -64,6 +70,8 @@ public:
     Resource* findResource(std::string const& name);
     // Unloads, destroys and forgets; true when it was cached.
     bool removeResource(std::string const& name);
+    // Every entry, numbered, with its name and address, at debug level; an
+    // empty slot shows its key and "NULL". Nothing when debug is off.
     void logResources();
 
     // getResource, plus a share in the object (null when getResource gives null).
@@ -76,6 +84,7 @@ protected:
     // in it when users still hold one.
     void releaseResource(Resource* resource);
 
+    // The shared logger "tovuutil.ResourceManager".
     Logger* logger;
 
 private:

@@ -16,8 +16,12 @@ class Logger;
 class TOVU_API SharedLib : public Resource {
 public:
     SharedLib();
+    // Stores the name only; load() maps the library.
     explicit SharedLib(std::string const& name);
+    // Copies the name only: the copy is not loaded and has no module.
     SharedLib(SharedLib const& other);
+    // Takes the name and resets to not loaded, without releasing a library
+    // this object had mapped.
     SharedLib& operator=(SharedLib const& other);
     ~SharedLib() override;
 
@@ -63,7 +67,9 @@ public:
     // A loaded SharedLib, or null; a failed library is not cached.
     Resource* load(std::string const& key) override;
     bool unload(std::string const& key) override;
+    // The normalised file name described above.
     std::string getFileName(std::string const& name) override;
+    // One map for every manager of this class, never destroyed.
     ResourceMap& getResourceMap() override;
 
 private:

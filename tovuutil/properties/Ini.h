@@ -18,7 +18,9 @@ namespace msvc_tovu_ini_wrapper {
 class TOVU_API Log {
 public:
     Log();
+    // Copies the path only; the copy is not open.
     Log(Log const& other);
+    // Closes this file and takes the other's path; the other's handle is not shared.
     Log& operator=(Log const& other);
     virtual ~Log();
 
@@ -36,11 +38,15 @@ public:
     bool Write(char const* format, ...);
     // Commits the file's buffers to the disk.
     void Flush();
+    // Whether a file is open.
     bool IsOpen() const;
+    // The path last passed to Open (kept after Close).
     std::string GetPath() const;
 
 protected:
+    // The low-level file handle, -1 when not open.
     int handle;
+    // The path last passed to Open.
     std::string path;
 };
 
@@ -74,17 +80,19 @@ protected:
 //   ini.Save();
 class TOVU_API Ini : public Log {
 public:
+    // One "key = value" record.
     struct Key {
-        std::string name;
-        std::string value;
-        std::list<std::string> unusedLines; // never filled
-        std::string unusedText;             // never filled
+        std::string name;                   ///< The key, trimmed.
+        std::string value;                  ///< The value, trimmed.
+        std::list<std::string> unusedLines; ///< Never filled.
+        std::string unusedText;             ///< Never filled.
     };
+    // One "[name]" record and its keys in file order.
     struct Section {
-        std::string name;
-        std::vector<Key> keys;
-        std::list<std::string> unusedLines; // never filled
-        std::string unusedText;             // never filled
+        std::string name;                   ///< The name between the brackets, untrimmed.
+        std::vector<Key> keys;              ///< The keys in file order, duplicates kept.
+        std::list<std::string> unusedLines; ///< Never filled.
+        std::string unusedText;             ///< Never filled.
     };
 
     Ini();
@@ -92,6 +100,7 @@ public:
 
     // Opens read-only.
     bool Open(char const* path);
+    // Closes the file; the sections in memory stay.
     void Close();
     // Replaces the sections by what is read from the handle's position; true.
     bool Load();
@@ -102,9 +111,12 @@ public:
     // written in place. A formatted line of more than 4999 characters is left
     // out. False only when the file cannot be opened for writing.
     bool Save();
+    // Forgets every section in memory (the file is untouched); true.
     bool clear();
 
+    // Whether a section of that name exists; null means "".
     bool SectionExists(char const* section);
+    // Whether the section exists and holds the key; null means "".
     bool KeyExists(char const* section, char const* key);
     // Found: value = the key's value, true. Otherwise value = defaultValue, false.
     bool ReadKey(char const* key, char const* section, std::string& value, char const* defaultValue);
@@ -112,31 +124,48 @@ public:
     bool WriteKey(char const* section, char const* key, char const* value);
     // Appends an empty section unless one of that name exists; true.
     bool AddSection(char const* section);
+    // Removes the first section of that name with its keys; true, also when
+    // there was none.
     bool RemoveSection(char const* section);
+    // Removes the first key of that name from the first such section; false
+    // when either is missing.
     bool RemoveKey(char const* section, char const* key);
 
     // The same with standard strings.
     bool Open(std::string const& path) { return Open(path.c_str()); }
+    // SectionExists(section.c_str()).
     bool SectionExists(std::string const& section) { return SectionExists(section.c_str()); }
+    // KeyExists(section.c_str(), key.c_str()).
     bool KeyExists(std::string const& section, std::string const& key) { return KeyExists(section.c_str(), key.c_str()); }
+    // ReadKey with C strings: note key before section.
     bool ReadKey(std::string const& key, std::string const& section, std::string& value,
                  std::string const& defaultValue)
     {
         return ReadKey(key.c_str(), section.c_str(), value, defaultValue.c_str());
     }
+    // WriteKey with C strings: section before key.
     bool WriteKey(std::string const& section, std::string const& key, std::string const& value)
     {
         return WriteKey(section.c_str(), key.c_str(), value.c_str());
     }
+    // AddSection(section.c_str()).
     bool AddSection(std::string const& section) { return AddSection(section.c_str()); }
+    // RemoveSection(section.c_str()): true also when missing.
     bool RemoveSection(std::string const& section) { return RemoveSection(section.c_str()); }
+    // RemoveKey(section.c_str(), key.c_str()): false when missing.
     bool RemoveKey(std::string const& section, std::string const& key) { return RemoveKey(section.c_str(), key.c_str()); }
 
-    // "section.key": the section is the text before the first ".".
+    // "section.key": the section is the text before the first "." (a name
+    // without one is a section with the empty key); "" when missing.
     std::string get(std::string const& name);
+    // As get(name), but defaultValue when the key is missing.
     std::string get(std::string const& name, std::string const& defaultValue);
+    // WriteKey for "section.key", split as in get.
     void put(std::string const& name, std::string const& value);
+    // The key names of the first section of that name, in file order with
+    // duplicates; empty when the section is missing.
     std::list<std::string> getKeysOfSection(std::string const& section);
+    // Every section name in file order, duplicates included.
     std::list<std::string> getSectionNames();
 
     // Removes leading " \t" + left characters, then cuts the text before its
@@ -146,7 +175,11 @@ public:
     static bool Trim(std::string& text, char const* left, char const* right);
 
 protected:
+    // found = the first section of that name (null means ""), or null; true when found.
+    // The pointer is valid until the sections change.
     bool FindSection(char const* section, Section*& found);
+    // found = the first key of that name in the first such section, or null;
+    // true when found. The pointer is valid until the sections change.
     bool FindKey(char const* section, char const* key, Key*& found);
     // One line from the handle's position, by the rules above.
     bool ReadLine(std::string& line);

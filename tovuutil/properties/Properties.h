@@ -36,24 +36,37 @@ enum PropertyFileEnum {
 class TOVU_API Properties : public Resource {
 public:
     Properties();
+    // loadProperties(name): the type from the extension.
     explicit Properties(std::string const& name);
+    // loadProperties(name, type).
     Properties(std::string const& name, PropertyFileEnum type);
+    // Copies name, type, dirty flag and content; the copy's file is not open.
     Properties(Properties const& other);
+    // Copies name, type, dirty flag and content; the file is not shared.
     Properties& operator=(Properties const& other);
     ~Properties() override;
 
+    // The file name last loaded (or set).
     std::string getName() override;
+    // Renames only: nothing is loaded, and writing still goes to the file opened.
     void setName(std::string const& name);
+    // The file's kind; PF_UNKNOWN before a load.
     PropertyFileEnum getType() const;
+    // Sets the kind used by the next writeProperties; nothing is converted.
     void setType(PropertyFileEnum type);
+    // True after a change not yet written.
     bool isDirty() const;
+    // Sets the flag by hand; nothing is written.
     void setDirty(bool dirty);
 
     // Chooses the type from the name, then loads.
     bool loadProperties(std::string const& name);
     // Reads the file of that type. A missing file keeps name and type, no content.
     bool loadProperties(std::string const& name, PropertyFileEnum type);
+    // writeProperties(getName(), getType()).
     bool writeProperties();
+    // writeProperties(name, getType()): name is only logged, the file
+    // written is still the one the content was loaded from.
     bool writeProperties(std::string const& name);
     // Only INI (saved to the file it was opened from) and XML (nothing
     // written) succeed; clears dirty then.
@@ -66,10 +79,15 @@ public:
 
     // The value, or "" when absent.
     std::string getProperty(std::string const& key);
+    // Replaces the value or adds the key (and its section); sets dirty.
     void setProperty(std::string const& key, std::string const& value);
+    // Removes the key and sets dirty; false (nothing changed) when not available.
     bool removeProperty(std::string const& key);
+    // True when the key exists with a value other than "_##undefined##_".
     bool isAvailable(std::string const& key);
+    // The key names of the section in file order; empty when it is missing.
     std::list<std::string> getKeysOfSection(std::string const& section);
+    // Every section name in file order.
     std::list<std::string> getSectionNames();
     // Debug dump of all sections and keys.
     void log();

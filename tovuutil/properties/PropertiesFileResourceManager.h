@@ -38,7 +38,9 @@ public:
     // Checks that the file is cached; logs an error when it is not. Releases
     // nothing itself.
     bool unload(std::string const& key) override;
+    // The canonical key described above.
     std::string getFileName(std::string const& name) override;
+    // The one map shared by every manager of this class.
     ResourceMap& getResourceMap() override;
 
     // Dumps the cache, unloads and destroys every entry in key order, dumps again.

@@ -37,7 +37,7 @@ class LockedResource;
 // finishes on its own copy, which is freed after.
 //
 // Every operation writes DEBUG method markers with its arguments, e.g.
-// getProperty("tm.ini", "A.b"); setProperties shows its list as <vector>.
+// getProperty("tm.ini", "A.b"); setProperties shows its list as `<vector>`.
 //
 // Example:
 //   auto* s = static_cast<PropertiesService*>(UtilServiceFactory::getService(1));

@@ -51,8 +51,11 @@ TOVU_API unsigned long Base32DecodeGetLength(unsigned long n);
 // n / 4 * 3.
 TOVU_API unsigned long Base64DecodeGetLength(unsigned long n);
 
+// Decodes n hex digits of src into dst; returns the bytes written.
 TOVU_API unsigned long Base16Decode(void* dst, void const* src, unsigned long n);
+// Decodes n Base32 characters of src into dst; returns the bytes written.
 TOVU_API unsigned long Base32Decode(void* dst, void const* src, unsigned long n);
+// Decodes n Base64 characters of src into dst; returns the bytes written.
 TOVU_API unsigned long Base64Decode(void* dst, void const* src, unsigned long n);
 
 } // namespace BaseDecode

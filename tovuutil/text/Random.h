@@ -24,6 +24,7 @@ public:
     // The 34 characters of random strings: digits without "0" and upper-case
     // letters without "O", so that no character can be read as another.
     static constexpr char kAlphabet[] = "123456789ABCDEFGHIJKLMNPQRSTUVWXYZ";
+    // The number of characters in kAlphabet (34).
     static constexpr std::size_t kAlphabetSize = sizeof kAlphabet - 1;
 
     // Seeds from the clock on the first draw.
@@ -32,9 +33,11 @@ public:
     explicit Random(unsigned seed);
     virtual ~Random();
 
+    // Seeds the runtime's rand() with seed now (process-wide) and remembers it.
     void setSeed(unsigned seed);
     // Whether a seed was set or drawn, and which.
     bool isSeeded() const;
+    // The seed set or drawn; 0 before the first.
     unsigned getSeed() const;
 
     // The next rand() value, 0 to RAND_MAX.
